@@ -160,6 +160,11 @@ TEST(BedFile, FurtherAxlesAddToTheRatios) {
     EXPECT_FLOAT_EQ(bed.DRATIO[2][2][2], 0.42F);
     EXPECT_EQ(bed.TNLR[2][1], 1000.5F);
     EXPECT_EQ(bed.DESLIFE, 1.465201F);
+
+    BedProblem apart = bed;
+    apart.DRATIO[1][2][1] = 0.03F, apart.ADDED[1][2][1] = 0.001F;
+    EXPECT_TRUE(readAll(written({apart})).at(0) == bed);
+    EXPECT_NE(written({apart}), written({bed}));
 }
 
 TEST(BedFile, CountsBeyondTheLimitsAreFaults) {
