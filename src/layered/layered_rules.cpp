@@ -143,8 +143,6 @@ void copyCounted(const LayeredSet& from, LayeredSet& to) {
 
 /// An emptied cell is as missing as a zero.
 bool isZero(const Variant& value) { return value.isEmptyText() || value == Variant(0); }
-bool isNonlinear(const LayeredSet& set) { return set.MATL == 2 || set.MATL == 4; }
-bool isViscous(const LayeredSet& set) { return set.MATL == 3 || set.MATL == 4; }
 
 struct Missing {
     bool (*holds)(const LayeredSet& set);
@@ -183,6 +181,9 @@ constexpr StatusRules statusRules(bool (*zcoordNeedsInput)(const LayeredSet&)) {
 
 const StatusRules colorCodeRules = statusRules([](const LayeredSet& set) { return set.NDAMA == 0; });
 const StatusRules generalRules = statusRules([](const LayeredSet& set) { return set.NZ != 0; });
+
+bool isNonlinear(const LayeredSet& set) { return set.MATL == 2 || set.MATL == 4; }
+bool isViscous(const LayeredSet& set) { return set.MATL == 3 || set.MATL == 4; }
 
 void setNewFileDefaults(LayeredSet& set) {
     setGeneralDefaults(set);

@@ -2,8 +2,12 @@
 
 #include "platform/files.h"
 
+std::string withSlash(const std::string& directory) {
+    return directory.empty() || directory.ends_with('/') ? directory : directory + '/';
+}
+
 std::string completePath(const std::string& path, const std::string& directory) {
-    return isFullName(path) ? path : directory + path;
+    return isFullName(path) ? path : withSlash(directory) + path;
 }
 
 std::string nameBehind(const std::string& directory, const std::string& path) {

@@ -4,8 +4,10 @@
 
 #include <string>
 
-/// `path` with `directory` (which ends in "/") in front when it is a bare name; an empty one gives the
-/// directory.
+/// `directory` with a "/" at its end; an empty one stays empty.
+std::string withSlash(const std::string& directory);
+
+/// `path` with `directory` in front when it is a bare name; an empty path gives the directory.
 std::string completePath(const std::string& path, const std::string& directory);
 
 /// The part of `path` behind `directory` where the path begins with it, otherwise the part behind its last

@@ -20,6 +20,7 @@ TEST(DeckPath, IsCutOnlyWhereItBeginsWithTheDirectory) {
 
 TEST(DeckPath, IsCompletedWhenItIsBare) {
     EXPECT_EQ(completePath("road.DAT", "/home/u/"), "/home/u/road.DAT");
+    EXPECT_EQ(completePath("road.DAT", "/home/u"), "/home/u/road.DAT");
     EXPECT_EQ(completePath("/b/road.DAT", "/home/u/"), "/b/road.DAT");
     EXPECT_EQ(completePath("", "/home/u/"), "/home/u/");
 }
