@@ -182,9 +182,6 @@ constexpr StatusRules statusRules(bool (*zcoordNeedsInput)(const LayeredSet&)) {
 const StatusRules colorCodeRules = statusRules([](const LayeredSet& set) { return set.NDAMA == 0; });
 const StatusRules generalRules = statusRules([](const LayeredSet& set) { return set.NZ != 0; });
 
-bool isNonlinear(const LayeredSet& set) { return set.MATL == 2 || set.MATL == 4; }
-bool isViscous(const LayeredSet& set) { return set.MATL == 3 || set.MATL == 4; }
-
 void setNewFileDefaults(LayeredSet& set) {
     setGeneralDefaults(set);
     setTableDefaults(set);

@@ -10,10 +10,6 @@
 struct LayeredSet;
 struct Store;
 
-/// What MATL says of the layers.
-bool isNonlinear(const LayeredSet& set);
-bool isViscous(const LayeredSet& set);
-
 /// A data set of a new file. Some arrays are cleared only in part; what lies beyond stays as it was.
 void setNewFileDefaults(LayeredSet& set);
 
