@@ -63,9 +63,6 @@ class OptionButton : public QRadioButton {
     /// Runs onClick when the value becomes true and was not. A user's click always runs it.
     void setValue(bool value);
     Handler onClick;
-
-  private:
-    bool setting_ = false;
 };
 
 class TextBox : public QLineEdit {
@@ -111,4 +108,8 @@ class ComboBox : public QComboBox {
     void clearList();
     Handler onChange;  ///< typing, or setTextValue with another text
     Handler onClick;   ///< a choice from the list, after the text is taken
+
+  private:
+    void changeList(const std::function<void()>& change);
+    void keepingText(const std::function<void()>& change);
 };

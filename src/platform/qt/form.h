@@ -6,11 +6,13 @@
 // handler: it disappears at once and is deleted when the handler has returned.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/qt/controls.h"
 #include "platform/run_time_error.h"
@@ -29,6 +31,8 @@ class Form : public QWidget {
 
     /// The form's size in twips (10 twips to a pixel) and its place: the middle of the screen, 200 twips up.
     void place(int heightTwips = 6450, int widthTwips = 9615);
+    /// Shows the form in front of the others and gives it the keyboard.
+    void Show();
 
     /// The control of that name. A missing name is InvalidCall and lists the names that exist.
     template <class Control>
@@ -56,17 +60,23 @@ class Screens {
   public:
     using Make = std::function<std::unique_ptr<Form>()>;
 
+    /// The message for a screen that nobody has added.
+    static constexpr const char* notThereYet = "This screen is not there yet.";
+
     explicit Screens(Dialogs& dialogs) : dialogs_(dialogs) {}
     ~Screens();
     Screens(const Screens&) = delete;
 
-    /// `group`: of the forms of one group only one is open; loading another closes it as by its frame.
+    /// `group`: of the forms of one group only one is open; loading one, be it the same again, first closes
+    /// the open one as by its frame, since the same form may serve another table now. If that refuses to
+    /// close, nothing is loaded.
     void add(const std::string& name, Make make, const std::string& group = "");
 
-    /// Makes and loads the form, or gives the one that is loaded. A name nobody has added: a message that
-    /// this screen is not there yet, and nullptr. A Form_Load that throws leaves no form behind.
+    /// Makes and loads the form, or gives the one that is loaded. A name nobody has added: the message
+    /// `notThereYet`, and nullptr. nullptr also when the form unloaded itself while it loaded. A Form_Load
+    /// that throws leaves no form behind.
     Form* load(const std::string& name);
-    /// Does nothing when the form is not loaded.
+    /// Without asking the form. Does nothing when it is not loaded.
     void unload(const std::string& name);
     /// The loaded form, or nullptr.
     Form* loaded(const std::string& name) const;
@@ -82,6 +92,12 @@ class Screens {
         std::string group;
         Form* form = nullptr;
     };
+    friend class Form;
+    bool closeGroup(const std::string& group);
+    /// Takes the form out of the registry; it is deleted when the handler that runs has returned.
+    void release(Form& form);
+
     Dialogs& dialogs_;
     std::map<std::string, Entry> entries_;
+    std::vector<QPointer<Form>> leaving_;
 };

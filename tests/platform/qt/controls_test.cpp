@@ -1,0 +1,162 @@
+// The controls under a user's hands: which typing, clicking and setting runs a
+// handler, and what a list operation leaves alone.
+#include "platform/qt/controls.h"
+
+#include <gtest/gtest.h>
+
+#include <QtTest>
+
+#include "platform/run_time_error.h"
+#include "support/scripted_dialogs.h"
+
+namespace {
+
+/// A window with one combo box, and what its handlers saw.
+struct ComboWindow {
+    QWidget window;
+    ComboBox combo{"cmb", &window};
+    TextBox other{"txt", "", &window};
+    std::vector<std::string> changes, clicks;
+
+    ComboWindow() {
+        combo.onChange = [this] { changes.push_back(combo.textValue()); };
+        combo.onClick = [this] { clicks.push_back(combo.textValue()); };
+        other.move(0, 60);
+        window.show();
+        window.activateWindow();
+        combo.setFocus();
+    }
+};
+
+using Texts = std::vector<std::string>;
+
+TEST(ComboBox, ListOperationsNeverTouchTheTypedText) {
+    ComboWindow w;
+    w.combo.addListItem("/first/");
+    EXPECT_EQ(w.combo.textValue(), "");
+    w.combo.setTextValue("/typed/");
+    w.combo.insertListItem("/zero/", 0);
+    w.combo.addListItem("/last/");
+    EXPECT_EQ(w.combo.listCount(), 3);
+    EXPECT_EQ(w.combo.listText(0), "/zero/");
+    EXPECT_EQ(w.combo.listText(2), "/last/");
+    w.combo.setListIndex(1);
+    w.combo.removeListItem(1);
+    EXPECT_EQ(w.combo.textValue(), "/first/");
+    w.combo.clearList();
+    EXPECT_EQ(w.combo.textValue(), "/first/");
+    EXPECT_EQ(w.combo.listCount(), 0);
+    EXPECT_EQ(w.changes, (Texts{"/typed/", "/first/"}));
+    EXPECT_EQ(w.clicks, Texts{});
+    EXPECT_THROW(w.combo.setListIndex(0), RunTimeError);
+}
+
+TEST(ComboBox, ChangeRunsForTypingAndForAnotherTextOnly) {
+    ComboWindow w;
+    w.combo.setTextValue("ab");
+    w.combo.setTextValue("ab");
+    QTest::keyClicks(w.combo.lineEdit(), "c");
+    QTest::keyClick(w.combo.lineEdit(), Qt::Key_Backspace);
+    EXPECT_EQ(w.changes, (Texts{"ab", "abc", "ab"}));
+    EXPECT_EQ(w.clicks, Texts{});
+}
+
+TEST(ComboBox, AChoiceFromTheListRunsClickAlsoForTheEntryThatStandsThere) {
+    ComboWindow w;
+    w.combo.addListItem("one.dat");
+    w.combo.addListItem("two.dat");
+    for (int round = 0; round < 2; ++round) {
+        w.combo.showPopup();
+        QTest::keyClick(w.combo.view(), Qt::Key_End);
+        QTest::keyClick(w.combo.view(), Qt::Key_Return);
+    }
+    EXPECT_EQ(w.clicks, (Texts{"two.dat", "two.dat"}));
+    EXPECT_EQ(w.changes, Texts{});
+}
+
+TEST(ComboBox, LeavingTheBoxWithATypedEntryIsNoChoice) {
+    ComboWindow w;
+    w.combo.addListItem("road.dat");
+    QTest::keyClicks(w.combo.lineEdit(), "road.dat");
+    QTest::keyClick(w.combo.lineEdit(), Qt::Key_Return);
+    QTest::keyClick(w.combo.lineEdit(), Qt::Key_Tab);
+    EXPECT_EQ(w.clicks, Texts{});
+    EXPECT_EQ(w.changes.size(), 8u);
+}
+
+TEST(OptionButton, RunsClickWhenSetToTrueAndAtEveryClickOfTheUser) {
+    QWidget window;
+    OptionButton first("opt1", "Data Set 1", &window), second("opt2", "Data Set 2", &window);
+    int clicks = 0;
+    first.onClick = [&] { ++clicks; };
+    first.setValue(true);
+    first.setValue(true);
+    EXPECT_EQ(clicks, 1);
+    QTest::mouseClick(&first, Qt::LeftButton);
+    EXPECT_EQ(clicks, 2);
+    second.setValue(true);
+    EXPECT_FALSE(first.value());
+    second.setValue(false);
+    EXPECT_FALSE(second.value());
+    first.setValue(true);
+    EXPECT_EQ(clicks, 3);
+}
+
+TEST(TextBox, ClickIsTheLeftMouseButtonAndNeverTab) {
+    QWidget window;
+    TextBox first("txtNl", "3", &window), second("txtNz", "4", &window);
+    second.move(0, 60);
+    second.onClick = [&] { second.setTextValue(""); };
+    window.show();
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Tab);
+    QTest::mouseClick(&second, Qt::MiddleButton);
+    EXPECT_EQ(second.textValue(), "4");
+    QTest::mouseClick(&second, Qt::LeftButton);
+    EXPECT_EQ(second.textValue(), "");
+}
+
+TEST(StatusLabel, KeepsWordAndColourApart) {
+    QWidget window;
+    StatusLabel label("lblNz", "default", &window);
+    label.input();
+    label.done();
+    EXPECT_EQ(label.caption(), "done");
+    EXPECT_EQ(label.foreColor(), StatusLabel::red);
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(255, 0, 0));
+    label.blueDefault();
+    EXPECT_EQ(label.palette().color(QPalette::WindowText), QColor(0, 0, 255));
+}
+
+TEST(HelpBox, KeepsTheTextAsSetAndLetsTabThrough) {
+    QWidget window;
+    HelpBox help("Text1", &window);
+    TextBox next("txt", "", &window);
+    help.setTextValue("1. one\r\n2. two\n");
+    EXPECT_EQ(help.textValue(), "1. one\r\n2. two\n");
+    EXPECT_EQ(help.toPlainText(), "1. one\n2. two\n");
+    EXPECT_TRUE(QFontInfo(help.font()).fixedPitch());
+    window.show();
+    window.activateWindow();
+    help.setFocus();
+    QTest::keyClicks(&help, "x");
+    QTest::keyClick(&help, Qt::Key_Tab);
+    EXPECT_EQ(help.toPlainText(), "1. one\n2. two\n");
+    EXPECT_EQ(window.focusWidget(), &next);
+}
+
+TEST(Dispatch, ShowsWhatAHandlerDidNotCatchAndGoesOn) {
+    ScriptedDialogs dialogs;
+    setDispatchDialogs(&dialogs);
+    QWidget window;
+    Button button("cmdOk", "&OK", &window);
+    button.onClick = [] { throw RunTimeError(Fault::Overflow); };
+    dialogs.expectBox("Overflow");
+    QTest::mouseClick(&button, Qt::LeftButton);
+    button.onClick = [&] { button.onClick = nullptr; };
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QTest::mouseClick(&button, Qt::LeftButton);
+    setDispatchDialogs(nullptr);
+}
+
+}  // namespace

@@ -1,0 +1,173 @@
+// Loading, unloading and closing of forms.
+#include "platform/qt/form.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QtTest>
+
+#include "support/scripted_dialogs.h"
+
+namespace {
+
+/// A form that counts what happens to it; its behaviour is set from outside.
+struct Behaviour {
+    int loads = 0, deletions = 0, questions = 0;
+    bool mayClose = true;
+    std::function<void(Form&)> onLoad;
+};
+
+class TrialForm : public Form {
+  public:
+    TrialForm(const std::string& name, Behaviour& behaviour) : Form(name), behaviour_(behaviour) {
+        label_.input();
+    }
+    ~TrialForm() override { ++behaviour_.deletions; }
+    void Form_Load() override {
+        ++behaviour_.loads;
+        place();
+        if (behaviour_.onLoad) behaviour_.onLoad(*this);
+    }
+    bool queryUnload() override {
+        ++behaviour_.questions;
+        return behaviour_.mayClose;
+    }
+
+  private:
+    Behaviour& behaviour_;
+    StatusLabel label_{"lblNz", "", this};
+    Button button_{"cmdOk", "&OK", this};
+};
+
+class FormTest : public ::testing::Test {
+  protected:
+    FormTest() {
+        setDispatchDialogs(&dialogs);
+        screens.add("frmOne", [this] { return std::make_unique<TrialForm>("frmOne", one); });
+        for (const char* name : {"frmTable", "frmOtherTable"}) {
+            screens.add(
+                name, [this, name] { return std::make_unique<TrialForm>(name, table); }, "table");
+        }
+    }
+    ~FormTest() override { setDispatchDialogs(nullptr); }
+    static void letHandlersReturn() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+    ScriptedDialogs dialogs;
+    Behaviour one, table;
+    Screens screens{dialogs};
+};
+
+TEST_F(FormTest, ALoadedFormStaysTheSameObject) {
+    Form* form = screens.load("frmOne");
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->size(), QSize(962, 645));
+    EXPECT_EQ(screens.load("frmOne"), form);
+    EXPECT_EQ(one.loads, 1);
+    screens.unload("frmOne");
+    EXPECT_EQ(screens.loaded("frmOne"), nullptr);
+    screens.unload("frmOne");
+    letHandlersReturn();
+    EXPECT_EQ(one.deletions, 1);
+    EXPECT_EQ(one.questions, 0);
+}
+
+TEST_F(FormTest, AScreenNobodyAddedIsToldAndNothingElse) {
+    dialogs.expectBox("This screen is not there yet.");
+    EXPECT_EQ(screens.load("frmPANFORM"), nullptr);
+}
+
+TEST_F(FormTest, AFailedLoadLeavesNoForm) {
+    one.onLoad = [](Form& form) {
+        form.Show();
+        throw RunTimeError(Fault::TypeMismatch);
+    };
+    dialogs.expectBox("Type mismatch");
+    dispatch([this] { screens.load("frmOne"); });
+    EXPECT_EQ(screens.loaded("frmOne"), nullptr);
+    EXPECT_EQ(one.deletions, 1);
+}
+
+TEST_F(FormTest, AFormMayUnloadItselfInItsHandler) {
+    Form* form = screens.load("frmOne");
+    form->Show();
+    std::string seen;
+    form->control<Button>("cmdOk").onClick = [&] {
+        screens.unload("frmOne");
+        seen = form->isVisible() ? "still there" : form->name();
+        screens.load("frmOne");
+    };
+    QTest::mouseClick(&form->control<Button>("cmdOk"), Qt::LeftButton);
+    EXPECT_EQ(seen, "frmOne");
+    EXPECT_NE(screens.loaded("frmOne"), form);
+    letHandlersReturn();
+    EXPECT_EQ(one.deletions, 1);
+    EXPECT_NE(screens.loaded("frmOne"), nullptr);
+}
+
+TEST_F(FormTest, AFormMayUnloadItselfWhileItLoads) {
+    one.onLoad = [this](Form&) { screens.unload("frmOne"); };
+    EXPECT_EQ(screens.load("frmOne"), nullptr);
+    letHandlersReturn();
+    EXPECT_EQ(one.deletions, 1);
+
+    one.onLoad = [this](Form&) {
+        screens.unload("frmOne");
+        throw RunTimeError(Fault::EndOfFile);
+    };
+    EXPECT_THROW(screens.load("frmOne"), RunTimeError);
+    letHandlersReturn();
+    EXPECT_EQ(one.deletions, 2);
+}
+
+TEST_F(FormTest, ClosingByTheFrameAsksTheForm) {
+    Form* form = screens.load("frmOne");
+    form->Show();
+    one.mayClose = false;
+    EXPECT_FALSE(form->close());
+    EXPECT_EQ(screens.loaded("frmOne"), form);
+    one.mayClose = true;
+    EXPECT_TRUE(form->close());
+    EXPECT_EQ(screens.loaded("frmOne"), nullptr);
+    EXPECT_EQ(one.questions, 2);
+    letHandlersReturn();
+    EXPECT_EQ(one.deletions, 1);
+}
+
+TEST_F(FormTest, OneFormOfAGroupIsOpenAndRefusingToCloseKeepsIt) {
+    Form* first = screens.load("frmTable");
+    Form* second = screens.load("frmOtherTable");
+    EXPECT_EQ(screens.loaded("frmTable"), nullptr);
+    EXPECT_NE(second, first);
+    Form* again = screens.load("frmOtherTable");
+    EXPECT_NE(again, second);
+    table.mayClose = false;
+    EXPECT_EQ(screens.load("frmTable"), nullptr);
+    EXPECT_EQ(screens.loaded("frmOtherTable"), again);
+    EXPECT_EQ(table.questions, 3);
+    letHandlersReturn();
+    EXPECT_EQ(table.deletions, 2);
+}
+
+TEST_F(FormTest, StatusWordsReachLoadedFormsOnly) {
+    screens.done("frmOne", "lblNz");
+    Form* form = screens.load("frmOne");
+    screens.done("frmOne", "lblNz");
+    const StatusLabel& label = form->control<StatusLabel>("lblNz");
+    EXPECT_EQ(label.caption(), "done");
+    EXPECT_EQ(label.foreColor(), StatusLabel::red);
+    screens.blueDefault("frmOne", "lblNz");
+    EXPECT_EQ(label.caption(), "default");
+}
+
+TEST_F(FormTest, AMissingControlNamesThoseThatAreThere) {
+    Form* form = screens.load("frmOne");
+    try {
+        form->control<Button>("cmdOK");
+        FAIL();
+    } catch (const RunTimeError& error) {
+        EXPECT_THAT(error.what(),
+                    ::testing::HasSubstr("frmOne has no cmdOK of that kind; it has lblNz cmdOk"));
+    }
+}
+
+}  // namespace
