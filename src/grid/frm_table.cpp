@@ -10,6 +10,12 @@
 #include "store/store.h"
 #include "text/pages.h"
 
+namespace {
+
+constexpr int unitDistance = 2;  ///< pixels between the unit row and the grid
+
+}  // namespace
+
 FrmTable::FrmTable(Program& program, const TableForm& form)
     : Form(form.name),
       program_(program),
@@ -31,14 +37,14 @@ void FrmTable::layOut() {
     auto* table = new QWidget(this);
     auto* tableColumn = new QVBoxLayout(table);
     tableColumn->setContentsMargins(0, 0, 0, 0);
-    tableColumn->setSpacing(2);
+    tableColumn->setSpacing(unitDistance);
     tableColumn->addWidget(&lblUnit);
     tableColumn->addWidget(&GridSpreadsheet, 1);
 
     parts_.addWidget(table);
     parts_.addWidget(&Text1);
     parts_.setChildrenCollapsible(false);
-    parts_.setStretchFactor(1, 1);
+    parts_.setStretchFactor(form_.helpBeside ? 1 : 0, 1);
 
     lblDelIns.setWordWrap(true);
     lblDouble.setWordWrap(true);
@@ -85,6 +91,7 @@ void FrmTable::Form_Load() {
     lblUnit.setWords(engine_->unit(), std::move(words));
     lblDelIns.setCaption(engine_->delInsHint());
     if (form_.mainTable) lblDouble.setCaption(engine_->entry().doubleHint);
+    lblDouble.setVisible(form_.mainTable);
     GridSpreadsheet.setAccessibleName(windowTitle());
 
     showState();
@@ -99,17 +106,19 @@ void FrmTable::Form_Load() {
 /// The grid gets what its columns, or the lines of a page, need; the help text the rest.
 void FrmTable::shareOut() {
     FlexGrid& grid = GridSpreadsheet;
-    const int frame = 2 * grid.frameWidth();
-    const int bar = grid.verticalScrollBar()->sizeHint().width();
+    layout()->activate();
+    int size = 2 * grid.frameWidth();
+    int all = 0;
     if (form_.helpBeside) {
-        int width = grid.verticalHeader()->width() + frame + bar;
-        for (int col = 1; col < grid.Cols(); ++col) width += grid.columnWidth(col - 1);
-        parts_.setSizes({width, this->width() - width});
+        size += grid.verticalHeader()->width() + grid.verticalScrollBar()->sizeHint().width();
+        for (int col = 1; col < grid.Cols(); ++col) size += grid.columnWidth(col - 1);
+        all = parts_.width();
     } else {
-        const int height = lblUnit.height() + grid.horizontalHeader()->height() + frame +
-                           form_.linesInSight * grid.verticalHeader()->defaultSectionSize();
-        parts_.setSizes({height, this->height() - height});
+        size += lblUnit.sizeHint().height() + unitDistance + grid.horizontalHeader()->sizeHint().height() +
+                form_.linesInSight * grid.verticalHeader()->defaultSectionSize();
+        all = parts_.height();
     }
+    parts_.setSizes({size, all - size - parts_.handleWidth()});
 }
 
 /// The engine learns where the user went and what stands in the text box.
