@@ -5,10 +5,10 @@
 // leaves half a file where a whole one was.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "platform/numbers.h"
 
@@ -39,7 +39,11 @@ class ListReader {
 
   private:
     ListReader() = default;
-    std::string token();
+    std::size_t itemStart() const;
+    std::string_view token() const;
+    void pass(std::string_view token);
+    template <class Number>
+    Number readNumber(Number (*convert)(std::string_view));
 
     std::string text_;
     std::size_t at_ = 0;
@@ -48,7 +52,9 @@ class ListReader {
 /// Writes lines that end in CR LF.
 class ListWriter {
   public:
-    /// Starts a new file that will stand at `path`. PathNotFound, PermissionDenied.
+    /// Starts a new file that will stand at `path` (resolved ignoring letter case; a symbolic link is
+    /// followed) with the permissions of the file it replaces. A device is written directly. PathNotFound,
+    /// PermissionDenied.
     explicit ListWriter(const std::string& path);
     /// Writes to a stream of the caller's; close() only checks it. For tests of failing devices.
     explicit ListWriter(std::ostream& stream);
