@@ -51,7 +51,7 @@ frmTOLMARK::frmTOLMARK(Program& program)
 
     auto* groups = new QHBoxLayout;
     groups->setSpacing(18);
-    buildGroup(*groups, "Label2", "Asphalt", "Label5", "Layered systems under wheel loads",
+    buildGroup(*groups, "Label2", "Asphalt", "Label5", "Layered systems",
                {{"cmdBedform", "&BEDFORM", "Input of layers and loads", &frmTOLMARK::cmdBedform_Click},
                 {"cmdTolstrat", "TOL&STRAT", "Start the layered solver", &frmTOLMARK::cmdTolstrat_Click},
                 {"cmdBedplot", "BE&DPLOT", "Plot pavement and results", &frmTOLMARK::cmdBedplot_Click}});
@@ -62,8 +62,7 @@ frmTOLMARK::frmTOLMARK(Program& program)
          {"cmdLarge", "&TOLPLATE LARGE RAM", "The same for large problems", &frmTOLMARK::cmdLarge_Click},
          {"cmdPanplot", "PA&NPLOT", "Plot slabs and results", &frmTOLMARK::cmdPanplot_Click},
          {"cmdContour", "&CONTOUR", "Plot stress contours", &frmTOLMARK::cmdContour_Click}});
-    page->addLayout(groups);
-    page->addStretch();
+    page->addLayout(groups, 1);
 
     auto* foot = new QHBoxLayout;
     foot->addWidget(new Label("Label4", "Click help for information on the use of this Main Screen.", this),
@@ -75,7 +74,7 @@ frmTOLMARK::frmTOLMARK(Program& program)
              {"cmdExit", "E&XIT", "Keep the list of directories and end the program",
               &frmTOLMARK::cmdExit_Click}}) {
         Button* button = makeButton(row);
-        button->setMinimumWidth(110);
+        button->setMinimumSize(110, 32);
         foot->addWidget(button);
     }
     page->addLayout(foot);
@@ -134,6 +133,7 @@ void frmTOLMARK::buildInputs(QBoxLayout& page) {
         // A long entry widens neither the box nor the form.
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(40);
+        box->setMinimumHeight(30);
         inputs->addWidget(label, row, 0);
         inputs->addWidget(box, row++, 1);
     }
@@ -147,6 +147,7 @@ void frmTOLMARK::buildGroup(QBoxLayout& page, const char* label, const char* cap
     auto* grid = new QGridLayout(panel);
     grid->setContentsMargins(16, 12, 16, 16);
     grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(12);
     grid->setColumnStretch(1, 1);
 
     auto* title = new Label(label, caption, this);
@@ -159,7 +160,7 @@ void frmTOLMARK::buildGroup(QBoxLayout& page, const char* label, const char* cap
     int line = 1;
     for (const ButtonRow& row : rows) {
         Button* button = makeButton(row);
-        button->setMinimumWidth(190);
+        button->setMinimumSize(190, 36);
         grid->addWidget(button, line, 0);
         grid->addWidget(new QLabel(row.about, this), line++, 1);
     }
