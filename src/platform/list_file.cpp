@@ -175,6 +175,8 @@ int ListReader::lineNumber() const {
     return 1 + static_cast<int>(std::count(text_.begin(), start, '\n'));
 }
 
+std::string ListReader::nextItem() const { return itemStart() < text_.size() ? std::string(token()) : ""; }
+
 ListWriter::ListWriter(const std::string& path) : target_(withoutLinks(resolveName(path))) {
     struct stat status;
     const bool exists = stat(target_.c_str(), &status) == 0;

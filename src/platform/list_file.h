@@ -36,6 +36,8 @@ class ListReader {
     bool endOfFile() const;
     /// Line on which the next item starts, from 1: for messages.
     int lineNumber() const;
+    /// The item that the next number would be read from, empty at the end of file: for messages.
+    std::string nextItem() const;
 
   private:
     ListReader() = default;

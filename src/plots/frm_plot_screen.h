@@ -1,0 +1,45 @@
+// What the plot screens have in common: the page as a window, the question after
+// each page, and the message of a run that fails.
+#pragma once
+
+#include <string>
+
+#include "platform/page.h"
+#include "platform/qt/form.h"
+#include "store/program.h"
+
+class PlotScreen : public Form {
+    Q_OBJECT
+  public:
+    PlotScreen(Program& program, const std::string& name, const std::string& caption);
+
+    /// The page that stands on the screen; without drawing between and after the plots.
+    const Page& page() const { return page_; }
+
+    /// Upper left corner, in twips.
+    struct Corner {
+        int left, top;
+    };
+    /// Where the page stands on a screen of this size in twips: above the middle, or, where the screen is too
+    /// small for it, with the page's margin pushed off the screen.
+    static Corner cornerOn(int screenWidth, int screenHeight);
+
+  protected:
+    /// The page's own size and place, and the line break that all built texts use.
+    void setUpPage();
+    /// The name of the plot file with this extension that belongs to the shared file name.
+    std::string plotFile(const std::string& extension) const;
+    /// Shows the page, asks whether to print it, and clears the screen. The form is shown too.
+    void present(const Page& page);
+    /// Clears the screen, which stays, and tells `message`.
+    void fail(const std::string& message);
+    void paintEvent(QPaintEvent* event) override;
+
+    Program& program_;
+
+  private:
+    void print(const Page& page);
+    void setPage(const Page& page);
+
+    Page page_;
+};

@@ -1,0 +1,138 @@
+#include "program/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <iostream>
+
+#include "platform/files.h"
+#include "platform/qt/batch.h"
+#include "platform/qt/page_renderer.h"
+#include "platform/run_time_error.h"
+#include "plots/layered_plot.h"
+#include "plots/plot_name.h"
+#include "program/desktop_program.h"
+#include "store/deck_kind.h"
+#include "store/store.h"
+
+namespace {
+
+constexpr int DONE = 0, FAILED = 1;
+
+int fail(const std::string& deck, const std::string& sentence) {
+    std::cerr << "tolmark: " << deck << ": " << sentence << std::endl;
+    return FAILED;
+}
+
+/// The file behind a deck's name, given with or without ".DAT".
+std::string deckFile(const std::string& name) {
+    const std::string path = std::filesystem::absolute(name).lexically_normal().string();
+    return resolveName(withDatExtension(path));
+}
+
+/// Runs the solver that the deck is for and waits for it.
+int solve(const std::string& name, const std::string& programDirectory,
+          const std::vector<std::string>& options) {
+    const std::string deck = deckFile(name);
+    switch (deckKind(deck)) {
+        case DeckKind::Layered:
+            break;
+        case DeckKind::Slab:
+            return fail(deck, "slab decks cannot be solved so far");
+        case DeckKind::Unknown:
+            return fail(deck, "this is neither a layered nor a slab deck");
+    }
+    std::vector<std::string> arguments{deck.substr(0, deck.size() - 4)};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    return runAndWait(programDirectory + "/TOLSTRAT.EXE", arguments);
+}
+
+struct PlotRequest {
+    std::string deck, pdf, svg, png;
+    int page = 0;  ///< 0: all of them
+    int dpi = 150;
+};
+
+/// The name for page `number` of `total`: the name itself for one page, else numbered before its ending.
+std::string pageName(const std::string& name, std::size_t number, std::size_t total) {
+    if (total == 1) return name;
+    const std::filesystem::path path(name);
+    return (path.parent_path() /
+            (path.stem().string() + "-" + std::to_string(number) + path.extension().string()))
+        .string();
+}
+
+/// Pages build on each other, so those before the wanted one are always built.
+std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
+    LayeredPlot plot(resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", ".BED")));
+    std::vector<Page> pages;
+    for (int number = 1; auto page = plot.next(); ++number) {
+        if (request.page == 0 || request.page == number) pages.push_back(std::move(*page));
+        if (request.page == number) break;
+    }
+    return pages;
+}
+
+int plot(const PlotRequest& request) {
+    const std::string deck = deckFile(request.deck);
+    std::vector<Page> pages;
+    try {
+        pages = plotPages(request, deck);
+    } catch (const RunTimeError& error) {
+        return fail(deck, error.fault() == Fault::FileNotFound ? "no plot file; solve the deck first"
+                                                               : std::string("Data error: ") + error.what());
+    }
+    if (pages.empty()) return fail(deck, "the plot has no page " + std::to_string(request.page));
+
+    const BatchApplication application;
+    if (!request.pdf.empty()) renderPdf(pages, request.pdf);
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        if (!request.svg.empty()) renderSvg(pages[i], pageName(request.svg, i + 1, pages.size()));
+        if (!request.png.empty())
+            renderPng(pages[i], pageName(request.png, i + 1, pages.size()), request.dpi);
+    }
+    return DONE;
+}
+
+}  // namespace
+
+int runCommandLine(int argc, char** argv) {
+    CLI::App app{
+        "TOLMARK: structural analysis of road pavements. Without a command it opens the main screen.",
+        "tolmark"};
+    app.set_version_flag("--version", "TOLMARK " TOLMARK_VERSION);
+    app.require_subcommand(0, 1);
+
+    std::vector<std::string> decks;
+    std::string csv;
+    auto* solveCommand = app.add_subcommand("solve", "solve decks with the solver that they are for");
+    solveCommand->add_option("deck", decks, "data files")->required();
+    auto* csvOption = solveCommand->add_option("--csv", csv, "write the results of the one deck as a table");
+
+    PlotRequest request;
+    auto* plotCommand = app.add_subcommand("plot", "write the plot pages of a solved deck");
+    plotCommand->add_option("deck", request.deck, "data file")->required();
+    auto* targets = plotCommand->add_option_group("targets", "where the pages go");
+    targets->add_option("--pdf", request.pdf, "all pages into one PDF file");
+    targets->add_option("--svg", request.svg, "one SVG file a page, numbered when there are several");
+    targets->add_option("--png", request.png, "one PNG file a page, numbered when there are several");
+    targets->require_option(1, 3);
+    plotCommand->add_option("--page", request.page, "only this page")->check(CLI::PositiveNumber);
+    plotCommand->add_option("--dpi", request.dpi, "resolution of PNG files")->check(CLI::Range(20, 1200));
+
+    CLI11_PARSE(app, argc, argv);
+    if (app.get_subcommands().empty()) return runDesktop(argc, argv);
+    try {
+        if (*plotCommand) return plot(request);
+        if (*csvOption && decks.size() > 1) return fail("--csv", "takes the results of one deck only");
+        int status = DONE;
+        for (const std::string& deck : decks) {
+            std::vector<std::string> options;
+            if (*csvOption) options = {"--csv", csv};
+            if (solve(deck, executableDirectory(), options) != DONE) status = FAILED;
+        }
+        return status;
+    } catch (const std::exception& error) {
+        std::cerr << "tolmark: " << error.what() << std::endl;
+        return FAILED;
+    }
+}

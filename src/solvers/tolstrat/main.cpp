@@ -1,0 +1,3 @@
+#include "solvers/tolstrat/command.h"
+
+int main(int argc, char** argv) { return runTolstrat(argc, argv); }

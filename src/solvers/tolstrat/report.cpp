@@ -1,0 +1,214 @@
+#include "solvers/tolstrat/report.h"
+
+#include <array>
+#include <cstdio>
+#include <string_view>
+
+#include "solvers/tolstrat/units.h"
+
+namespace {
+
+using layered_theory::Response;
+
+constexpr const char* LINE_END = "\r\n";
+constexpr int PLOT_RADIAL_POINTS = 10;
+
+template <class... Values>
+std::string printed(const char* pattern, Values... values) {
+    std::array<char, 256> text;
+    std::snprintf(text.data(), text.size(), pattern, values...);
+    return text.data();
+}
+
+int count(double value) { return static_cast<int>(value); }
+
+std::string cell(double value) { return printed(" %12.5g", value); }
+
+void line(std::ostream& out, const std::string& text = "") { out << text << LINE_END; }
+
+/// A row of numbers under a name, continued below itself after `perLine`.
+void row(std::ostream& out, const std::string& name, int first, int last, auto value, int perLine = 8) {
+    std::string text = printed("  %-34s", name.c_str());
+    for (int i = first; i <= last; ++i) {
+        if (i > first && (i - first) % perLine == 0) {
+            line(out, text);
+            text = std::string(36, ' ');
+        }
+        text += printed(" %.7g", static_cast<double>(value(i)));
+    }
+    line(out, text);
+}
+
+void item(std::ostream& out, const std::string& name, double value, const std::string& note = "") {
+    line(out, printed("  %-34s %.7g", name.c_str(), value) + (note.empty() ? "" : "   " + note));
+}
+
+constexpr std::array<const char*, 4> LOAD_WORDS = {"single axle, single tire", "single axle, dual tires",
+                                                   "tandem axles", "tridem axles"};
+
+void writeLoadEcho(std::ostream& out, const LayeredSet& set, int group, const Units& units) {
+    const LayeredSet::Load& load = set.LOADL[group];
+    const int kind = count(load.LOAD.number());
+    const int points = count(load.NR.number());
+    line(out);
+    line(out, printed("  Load group %d", group));
+    item(out, "LOAD", kind, LOAD_WORDS.at(static_cast<std::size_t>(kind)));
+    item(out, "Contact radius CR", load.CR.number(), units.length);
+    item(out, "Contact pressure CP", load.CP.number(), units.stress);
+    if (kind == 0) {
+        row(out, std::string("Radial coordinates RC, ") + units.length, 1, points,
+            [&](int j) { return set.RC[group][j].number(); });
+        return;
+    }
+    item(out, "Dual spacing YW along y", load.YW.number(), units.length);
+    if (kind > 1) item(out, "Axle spacing XW along x", load.XW.number(), units.length);
+    row(out, std::string("Points XPT, ") + units.length, 1, points,
+        [&](int j) { return set.PT[group][j].XPT.number(); });
+    row(out, std::string("       YPT, ") + units.length, 1, points,
+        [&](int j) { return set.PT[group][j].YPT.number(); });
+}
+
+/// A block of the result table: its head, its columns, and how a response fills them.
+struct Block {
+    double fromNstd;
+    const char* title;
+    std::array<const char*, 9> heads;
+    std::array<double, 9> (*values)(const Response&);
+    int columns;
+    bool stress;
+};
+
+constexpr std::array<Block, 2> BLOCKS = {
+    Block{5,
+          "Stresses",
+          {"sxx", "syy", "szz", "sxy", "sxz", "syz", "s1", "s2", "s3"},
+          [](const Response& r) -> std::array<double, 9> {
+              const auto& t = r.stress;
+              const auto& p = r.principalStress;
+              return {t.xx, t.yy, t.zz, t.xy, t.xz, t.yz, p[0], p[1], p[2]};
+          },
+          9,
+          true},
+    Block{9,
+          "Strains",
+          {"exx", "eyy", "ezz", "exy", "exz", "eyz", "e1", "e2", "e3"},
+          [](const Response& r) -> std::array<double, 9> {
+              const auto& t = r.strain;
+              const auto& p = r.principalStrain;
+              return {t.xx, t.yy, t.zz, t.xy, t.xz, t.yz, p[0], p[1], p[2]};
+          },
+          9,
+          false}};
+
+std::string placeText(const GroupResult& group, std::size_t point, std::size_t depth) {
+    const auto& at = group.points[point];
+    return printed(" %4zu %10.5g %10.5g %10.6g", point + 1, at.x, at.y, group.depths[depth].z);
+}
+
+constexpr const char* PLACE_HEAD = "   Pt          x          y          z";
+
+/// Calls `write(point, depth, response)` in the order of the tables.
+void eachResponse(const GroupResult& group, auto write) {
+    for (std::size_t point = 0; point < group.points.size(); ++point) {
+        for (std::size_t depth = 0; depth < group.depths.size(); ++depth) {
+            write(point, depth, group.result.responses[point * group.depths.size() + depth]);
+        }
+    }
+}
+
+}  // namespace
+
+void writeHeading(std::ostream& out, const std::string& deck, int dataSets) {
+    line(out, "TOLSTRAT " TOLMARK_VERSION ": stresses, strains and displacements of layered pavements");
+    line(out, "Deck: " + deck);
+    line(out, printed("Data sets: %d", dataSets));
+    line(out, "Linear elastic layers, last one infinite; circular uniform vertical loads, superposed.");
+    line(out, "Compression and downward displacement are positive; shear strains are tensor components.");
+    line(out, "At an interface the values are those at the bottom of the upper layer.");
+}
+
+void writeEcho(std::ostream& out, const LayeredSet& set, int n) {
+    const Units& units = unitsOf(set.NUNIT);
+    const int layers = count(set.NL);
+    line(out);
+    line(out, std::string(78, '='));
+    line(out, printed("Data set %d: ", n) + set.TITLE);
+    line(out);
+    line(out, std::string("Input, units: ") + units.length + ", " + units.stress);
+    item(out, "Material type MATL", set.MATL, "all layers linear elastic");
+    item(out, "Periods NPY", set.NPY);
+    item(out, "Load groups NLG", set.NLG);
+    item(out, "Tolerance of integration DEL", set.DEL);
+    item(out, "Maximum cycles ICL", set.ICL);
+    item(out, "Responses NSTD", set.NSTD,
+         set.NSTD == 1   ? "displacements"
+         : set.NSTD == 5 ? "displacements, stresses"
+                         : "displacements, stresses, strains");
+    item(out, "Layers NL", layers);
+    row(out, std::string("Thickness TH, ") + units.length, 1, layers - 1,
+        [&](int i) { return set.LAYER[i].TH.number(); });
+    row(out, "Poisson's ratio PR", 1, layers, [&](int i) { return set.LAYER[i].PR.number(); });
+    if (set.NBOND == 1) {
+        line(out, "  All interfaces bonded");
+    } else {
+        row(out, "Interfaces INT (1 bonded)", 1, layers - 1, [&](int i) { return set.INTF[i]; });
+    }
+    for (int period = 1; period <= count(set.NPY); ++period) {
+        row(out, printed("Modulus E of period %d, ", period) + units.stress, 1, layers,
+            [&](int i) { return set.EMOD[period][i].number(); });
+    }
+    row(out, std::string("Depths ZC, ") + units.length, 1, count(set.NZ),
+        [&](int i) { return set.ZC[i].number(); });
+    for (int group = 1; group <= count(set.NLG); ++group) writeLoadEcho(out, set, group, units);
+}
+
+void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& group) {
+    const Units& units = unitsOf(set.NUNIT);
+    line(out);
+    line(out, std::string(78, '-'));
+    line(out, printed("Period %d, load group %d: %d cycles of integration", group.period, group.group,
+                      group.result.cycles));
+    if (!group.result.converged) {
+        line(out,
+             printed("*** ICL = %d cycles were reached before the tolerance DEL was met: rows marked * are "
+                     "less accurate. Raise ICL. ***",
+                     count(set.ICL)));
+    }
+
+    line(out);
+    line(out, std::string("Vertical displacement w, ") + units.length);
+    line(out, std::string(PLACE_HEAD) + "            w");
+    eachResponse(group, [&](std::size_t point, std::size_t depth, const Response& response) {
+        line(out, placeText(group, point, depth) + cell(response.w) + (response.converged ? "" : " *"));
+    });
+
+    for (const Block& block : BLOCKS) {
+        if (set.NSTD < block.fromNstd) continue;
+        line(out);
+        line(out, block.title + (block.stress ? std::string(", ") + units.stress : ""));
+        std::string head = PLACE_HEAD;
+        for (const char* name : block.heads) head += printed(" %12s", name);
+        line(out, head);
+        eachResponse(group, [&](std::size_t point, std::size_t depth, const Response& response) {
+            std::string text = placeText(group, point, depth);
+            for (double value : block.values(response)) text += cell(value);
+            line(out, text + (response.converged ? "" : " *"));
+        });
+    }
+}
+
+void writePlotNotes(std::ostream& out, const LayeredSet& set) {
+    for (int group = 1; group <= count(set.NLG); ++group) {
+        if (set.LOADL[group].LOAD.number() == 0 && set.LOADL[group].NR.number() > PLOT_RADIAL_POINTS) {
+            line(out);
+            line(out,
+                 printed(
+                     "Note: load group %d has more than %d radial coordinates, which the plot cannot show.",
+                     group, PLOT_RADIAL_POINTS));
+        }
+    }
+    if (set.NL == 1) {
+        line(out);
+        line(out, "Note: a half-space has no layers, which the plot cannot show.");
+    }
+}

@@ -1,0 +1,10 @@
+// Which solver a deck is for, told from its content.
+#pragma once
+
+#include <string>
+
+enum class DeckKind { Layered, Slab, Unknown };
+
+/// Goes by the label of card (3); a deck whose labels are short is layered when it reads as a layered one.
+/// FileNotFound, PermissionDenied.
+DeckKind deckKind(const std::string& path);

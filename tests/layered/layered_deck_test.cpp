@@ -1,0 +1,449 @@
+#include "layered/layered_deck.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "platform/run_time_error.h"
+#include "store/deck_kind.h"
+#include "support/layered_stores.h"
+#include "support/temporary_directory.h"
+
+namespace {
+
+using Outcome = DeckReadResult::Outcome;
+
+std::string deckOf(const Store& store) {
+    std::ostringstream stream;
+    ListWriter out(stream);
+    saveLayeredDeck(store, out);
+    out.close();
+    return stream.str();
+}
+
+/// The deck from the line behind the label of card `from` to the end, with line ends as "|".
+std::string linesAfter(const std::string& deck, const std::string& label) {
+    std::string lines;
+    for (const char c : deck.substr(deck.find(label) + label.size() + 2))
+        if (c != '\r') lines += c == '\n' ? '|' : c;
+    return lines;
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    const auto at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return text.replace(at, what.size(), by);
+}
+
+constexpr const char* threeLayerDeck =
+    " 1  (1) NPROB\r\n"
+    "Three layers\r\n"
+    " 1  0  1  1  (3) MATL NDAMA NPY NLG\r\n"
+    " .001  (4) DEL\r\n"
+    " 3  2  80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"
+    " 4   8   (6) TH\r\n"
+    " .35   .3   .45   (7) PR\r\n"
+    " 0   4.0001   (8) ZC\r\n"
+    " 1  (9) NBOND\r\n"
+    " 400000   25000   7500   (11) E\r\n"
+    " 0   (13) LOAD\r\n"
+    " 4.5   100   (14) CR CP\r\n"
+    " 1   (16) NR\r\n"
+    " 0   (17) RC\r\n";
+
+TEST(LayeredDeck, WritesCardsToTheLetter) {
+    const auto store = threeLayerStore();
+    EXPECT_EQ(deckOf(*store), threeLayerDeck);
+
+    LayeredSet& s = store->layered[1];
+    s.LAYER[1].TH = "4.50";  // as typed: a text brings no blanks of its own
+    s.LAYER[2].TH = 1.365e-9f;
+    s.LAYER[1].PR = "-.5";
+    EXPECT_EQ(linesAfter(deckOf(*store), "NUNIT").substr(0, 50),
+              "4.50  1.365E-09   (6) TH|-.5  .3   .45   (7) PR| 0");
+}
+
+TEST(LayeredDeck, CardsComeByTheirConditions) {
+    const auto store = threeLayerStore();
+    LayeredSet& s = store->layered[1];
+    s.NBOND = 0;
+    s.INTF[2] = 1;
+    EXPECT_NE(deckOf(*store).find(" 0  (9) NBOND\r\n 0   1   (10) INT\r\n 400000"), std::string::npos);
+    s.NBOND = 2;
+    EXPECT_NE(deckOf(*store).find("(10) INT"), std::string::npos);
+    s.NL = 1;
+    EXPECT_EQ(linesAfter(deckOf(*store), "NSTD NUNIT").substr(0, 53),
+              " .35   (7) PR| 0   4.0001   (8) ZC| 2  (9) NBOND| 400");
+    s.NZ = 0;
+    EXPECT_EQ(deckOf(*store).find("(8)"), std::string::npos);
+    s.NZ = 2;
+    s.NDAMA = 1;
+    EXPECT_EQ(deckOf(*store).find("(8)"), std::string::npos);
+    EXPECT_NE(deckOf(*store).find("(46)"), std::string::npos);
+    s.LOADL[1].NR = 0;
+    s.NDAMA = 0;
+    EXPECT_EQ(linesAfter(deckOf(*store), "(14) CR CP"), " 0   (16) NR|");
+}
+
+TEST(LayeredDeck, MultipleWheelsAndTheOpenLine) {
+    const auto store = threeLayerStore();
+    LayeredSet& s = store->layered[1];
+    s.NLG = 2;
+    s.LOADL[1] = {2, 4.5f, 100.0f, 13.5f, 48.0f, 2};
+    s.PT[1][1] = {0, "6.75"};
+    s.PT[1][2] = {24.0f, 0};
+    s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, 1};
+    EXPECT_EQ(
+        linesAfter(deckOf(*store), "(11) E"),
+        " 2   (13) LOAD| 4.5   100   (14) CR CP| 2   (19) NPT| 48   13.5   0  6.75  24   0   (20) XW YW XPT|"
+        " 1   (13) LOAD| 4.5   100   (14) CR CP| 1   (19) NPT| 0   13.5   0   0   (20) XW YW XPT|");
+
+    // Without points the label stays away and the next card, or the next data set, goes on on the line.
+    s.LOADL[1].NR = 0;
+    s.LOADL[2].NR = "0";
+    store->NPROB = 2;
+    store->layered[2] = threeLayerStore()->layered[1];
+    const std::string deck = deckOf(*store);
+    EXPECT_NE(linesAfter(deck, "(11) E").find(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"),
+              std::string::npos);
+    EXPECT_NE(linesAfter(deck, "(11) E").find("0  (19) NPT| 0   13.5  Three layers| 1  0  1"),
+              std::string::npos);
+    const auto read = std::make_unique<Store>();
+    ListReader in = ListReader::fromText(deck);
+    EXPECT_EQ(readLayeredDeck(in, *read).sentence(), "");
+    EXPECT_EQ(read->layered[1].LOADL[2].YW, Variant(13.5));
+    EXPECT_EQ(read->layered[2].TITLE, "Three layers");
+}
+
+/// Nonlinear and viscoelastic with damage: two layers of each kind, two periods.
+std::unique_ptr<Store> combinedStore() {
+    auto store = threeLayerStore();
+    LayeredSet& s = store->layered[1];
+    s.MATL = 4;
+    s.NDAMA = 1;
+    s.NPY = 2;
+    s.NOLAY = 2;
+    s.ITENOL = 15;
+    s.NOLLAY[1] = {2, 8.5, 0};
+    s.NOLLAY[2] = {3, 13.0, 1};
+    s.RCNOL = s.XCNOL = s.YCNOL = s.SLD = 0;
+    s.DELNOL = .01;
+    s.RELAX[1] = s.RELAX[2] = .5f;
+    s.KGRAN[1] = {.5, .6};
+    s.KCLAY[2] = {6.2, 1110, 178, .8};
+    for (int period = 1; period <= 2; ++period) {
+        s.KPER[1][period][1] = 10 * period;
+        s.KPER[1][period][2] = 8000;
+        s.KPER[2][period][1] = 1827;
+        s.KPER[2][period][2] = 7682;
+        s.KPER[2][period][3] = 3020 * period;
+    }
+    s.DUR = .1;
+    s.NVL = 1;
+    s.NTYME = 2;
+    s.VISLAY[1] = {1, .113, 70};
+    s.TYME[1] = .001;
+    s.TYME[2] = 100;
+    s.CREEP[1][1] = 1.365e-9f;
+    s.CREEP[1][2] = 2e-5f;
+    s.TEMP[1][1] = 70;
+    s.TEMP[2][1] = "40";
+    s.NLBT = s.NLTC = 1;
+    s.DAMBT[1] = {1, .0796, 3.291, .854};
+    s.DAMTC[1] = {3, 1.365e-9f, 4.477f};
+    s.TNLR[1][1] = 100000;
+    s.TNLR[2][1] = 2.76e7f;
+    return store;
+}
+
+TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
+    const auto store = combinedStore();
+    LayeredSet& s = store->layered[1];
+    EXPECT_EQ(linesAfter(deckOf(*store), "(17) RC"),
+              " 2  15  (25) NOLAY ITENOL| 2   0   3   1   (26) LAYNO NCLAY| 8.5   13   (27) ZCNOL|"
+              " 0  0  0  0  .01  (28) RCNOL XCNOL YCNOL SLD DELNOL| .5   .5   (29) RELAX| 145   135   125   "
+              "(30) GAM|"
+              " .5  .6  (31) K2 K0| 6.2  1110  178  .8  (31) K2 K3 K4 K0|"
+              " 10   8000   (33) PHI K1| 1827   7682   3020   (33) EMIN EMAX K1|"
+              " 20   8000   (33) PHI K1| 1827   7682   6040   (33) EMIN EMAX K1|"
+              " .1  (36) DUR| 1  1   (37) NVL LNV| 2  (38) NTYME| .001   100   (39) TYME|"
+              " .113   70   (41) BETA TEMPREF| 1.365E-09   .00002   (42) CREEP| 70   (44) TEMP|40  (44) TEMP|"
+              " 1  1  (46) NLBT NLTC| 1   (47) LNBT| 3   (48) LNTC| 100000   (49) TNLR| 2.76E+07   (49) TNLR|"
+              " .0796   3.291   .854   (50) FT1 FT2 FT3| 1.365E-09   4.477   (51) FT4 FT5|");
+
+    s.NVL = 2;  // from two layers on the count has a line of its own
+    s.VISLAY[2] = {2, .113, 70};
+    EXPECT_NE(linesAfter(deckOf(*store), "(36) DUR").find(" 2 | 1   2   (37) NVL LNV| 2  (38)"),
+              std::string::npos);
+    s.NVL = 0;
+    EXPECT_NE(
+        linesAfter(deckOf(*store), "(36) DUR").find(" 0  2  (38) NTYME| .001   100   (39) TYME| 1  1  (46)"),
+        std::string::npos);
+    s.KGRAN[1] = {".5", ".6"};  // close texts keep apart
+    EXPECT_NE(deckOf(*store).find(" .5  .6  (31) K2 K0\r\n"), std::string::npos);
+}
+
+/// Every value that a data set's cards hold, with its place.
+class Values : public CardWalker<LayeredSet> {
+  public:
+    static std::vector<std::pair<std::string, Variant>> of(LayeredSet& set) {
+        DeckPlace where;
+        Values values(set, where);
+        values.walk(layeredCards());
+        return values.found_;
+    }
+
+  private:
+    Values(LayeredSet& set, DeckPlace& where) : CardWalker(set, where) {}
+    void value(const Card<LayeredSet>&, const Run<LayeredSet>&, Cell cell) override {
+        found_.emplace_back(where_.text(), std::visit([](const auto* held) { return Variant(*held); }, cell));
+    }
+    std::vector<std::pair<std::string, Variant>> found_;
+};
+
+TEST(LayeredDeck, RandomStoresKeepTheirValues) {
+    constexpr unsigned seed = 20240;
+    RandomStores stores(seed);
+    for (int round = 0; round < 150; ++round) {
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
+        const auto store = stores.next();
+        ListReader in = ListReader::fromText(deckOf(*store));
+        const auto read = std::make_unique<Store>();
+        ASSERT_EQ(readLayeredDeck(in, *read).sentence(), "");
+        EXPECT_TRUE(in.endOfFile() || in.nextItem().empty());
+        ASSERT_EQ(read->NPROB, store->NPROB);
+        for (int n = 1; n <= store->NPROB; ++n) {
+            const auto expected = Values::of(store->layered[n]), values = Values::of(read->layered[n]);
+            ASSERT_EQ(values.size(), expected.size());
+            for (std::size_t i = 0; i < values.size(); ++i) {
+                ASSERT_EQ(values[i].first, expected[i].first);
+                ASSERT_EQ(values[i].second, expected[i].second) << values[i].first;
+            }
+        }
+        const std::string again = deckOf(*read);  // texts have become numbers: from here on it stays
+        ListReader second = ListReader::fromText(again);
+        ASSERT_EQ(readLayeredDeck(second, *store).outcome, Outcome::Complete);
+        ASSERT_EQ(deckOf(*store), again);
+    }
+}
+
+TEST(LayeredDeck, OldFormatDiffersInThreePlaces) {
+    const auto store = combinedStore();
+    store->layered[1].NDAMA = 0;
+    store->layered[1].NUNIT = 1;
+    std::string old = deckOf(*store);
+    for (auto at = old.find(" ("); at != std::string::npos; at = old.find(" (", at + 1)) {
+        const auto close = old.find(')', at);
+        old.erase(close + 1, old.find('\r', at) - close - 1);
+    }
+    old = replaced(old, " 80  9  1  (5)", " 80  9  (5)");
+    old = replaced(old, " 145   135   125 ", " .084   .078125  0.0723379 ");
+
+    const auto read = std::make_unique<Store>();
+    read->layered[1].NUNIT = 1;
+    std::vector<std::string> told;
+    LayeredReadHooks hooks;
+    hooks.nprobRead = [&](Integer NPROB) { told.push_back("sets " + std::to_string(NPROB)); };
+    hooks.oldFormatPHI = [&](int set) {
+        told.push_back("PHI " + std::to_string(set));
+        EXPECT_EQ(read->layered[set].DEL, .001f) << "told when card (4) has been read";
+        EXPECT_EQ(read->layered[set].NL, 0) << "and before the rest";
+    };
+    ListReader in = ListReader::fromText(old);
+    EXPECT_EQ(readLayeredDeck(in, *read, hooks).sentence(), "");
+    EXPECT_EQ(told, (std::vector<std::string>{"sets 1", "PHI 1"}));
+    LayeredSet& s = read->layered[1];
+    EXPECT_EQ(s.NUNIT, 0);
+    EXPECT_EQ(s.NSTD, 9);
+    EXPECT_EQ(s.KPER[1][2][1], Variant(20));
+    const int weights[] = {145, 135, 125};
+    for (int layer = 1; layer <= 3; ++layer) {
+        EXPECT_TRUE(std::holds_alternative<Integer>(s.LAYER[layer].GAM.value()));
+        EXPECT_EQ(s.LAYER[layer].GAM, Variant(weights[layer - 1]));
+    }
+    EXPECT_NE(deckOf(*read).find(" 80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"), std::string::npos);
+
+    ListReader heavy = ListReader::fromText(replaced(old, ".084 ", "145 "));
+    const DeckReadResult result = readLayeredDeck(heavy, *read);
+    EXPECT_EQ(result.outcome, Outcome::Failed);
+    EXPECT_EQ(result.where.text(), "GAM(1), card (30), data set 1");
+}
+
+TEST(LayeredDeck, BadDecksAreToldByLineFieldAndCard) {
+    const std::string deck = threeLayerDeck;
+    const struct {
+        std::string text;
+        Outcome outcome;
+        const char* sentence;
+    } rows[] = {
+        {replaced(deck, " 4   8 ", " 4   abc "), Outcome::Failed,
+         "line 6: TH(2), card (6), data set 1: \"abc\" is no number"},
+        {replaced(deck, "25000", "1E999"), Outcome::Failed,
+         "line 10: E(1, 2), card (11), data set 1: the value is out of range"},
+        {replaced(deck, " 3  2  80", " 20  2  80"), Outcome::Failed,
+         "line 6: TH(3), card (6), data set 1: \"(6)\" is no number"},
+        {deck.substr(0, deck.find("7500")), Outcome::Failed,
+         "line 10: E(1, 3), card (11), data set 1: the file ends here"},
+        {deck.substr(0, deck.rfind("   (17)")), Outcome::Failed,
+         "line 14: card (17), data set 1: the file ends here"},
+        {replaced(deck, " 1  (1)", " 2  (1)"), Outcome::Failed,
+         "line 15: TITLE, card (2), data set 2: the file ends here"},
+        {replaced(deck, " 1  (1)", " 6  (1)") + deck + deck, Outcome::Failed,
+         "line 16: MATL, card (3), data set 2: \"Three\" is no number"},
+        {replaced(deck, "Three layers", "Three, layers"), Outcome::Failed,
+         "line 2: MATL, card (3), data set 1: \"layers\" is no number"},
+        {replaced(deck, "(9) NBOND", "(9 NBOND"), Outcome::NotADeck,
+         "line 9: card (9), data set 1: the label \"(9)\" is not there: this is no layered deck"},
+        {"", Outcome::Failed, "line 1: NPROB, card (1): the file ends here"},
+    };
+    for (const auto& row : rows) {
+        const auto read = std::make_unique<Store>();
+        ListReader in = ListReader::fromText(row.text);
+        const DeckReadResult result = readLayeredDeck(in, *read);
+        EXPECT_EQ(result.outcome, row.outcome) << row.sentence;
+        EXPECT_EQ(result.sentence(), row.sentence);
+    }
+
+    std::string many = " 3  0  1  13  (3)";
+    many = replaced(deck, " 1  0  1  1  (3)", many);
+    const std::string group = deck.substr(deck.find(" 0   (13)"));
+    for (int n = 2; n <= 13; ++n) many += group;
+    const auto read = std::make_unique<Store>();
+    ListReader in = ListReader::fromText(many);
+    EXPECT_EQ(readLayeredDeck(in, *read).sentence(),
+              "line 59: LOAD(13), card (13), data set 1: more than a data file can hold");
+    EXPECT_EQ(read->layered[1].LOADL[12].CR, Variant(4.5)) << "what was read stays";
+}
+
+TEST(LayeredDeck, FilesAreFoundIgnoringCase) {
+    TemporaryDirectory folder;
+    folder.write("road.dat", "old");
+    saveLayeredDeck(*threeLayerStore(), folder.path() + "road");
+    EXPECT_EQ(folder.read("road.dat"), threeLayerDeck);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() + "road.DAT"));
+    const auto read = std::make_unique<Store>();
+    EXPECT_EQ(readLayeredDeck(folder.path() + "ROAD.DAT", *read).outcome, Outcome::Complete);
+    EXPECT_EQ(readLayeredDeck(folder.path() + "none.DAT", *read).sentence(),
+              "File not found: " + folder.path() + "none.DAT");
+}
+
+TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
+    const struct {
+        const char* what;
+        void (*spoil)(Store& store);
+        Fault fault;
+        const char* place;
+    } rows[] = {
+        {"count never entered", [](Store& s) { s.layered[1].LOADL[1].NR = ""; }, Fault::TypeMismatch,
+         "NR(1), card (16), data set 1"},
+        {"text in a cell", [](Store& s) { s.layered[1].LAYER[2].TH = "1,5"; }, Fault::TypeMismatch,
+         "TH(2), card (6), data set 1"},
+        {"layers beyond the store", [](Store& s) { s.layered[1].NL = 20; }, Fault::SubscriptOutOfRange,
+         "PR(20), card (7), data set 1"},
+        {"periods beyond the store", [](Store& s) { s.layered[1].NPY = 13; }, Fault::SubscriptOutOfRange,
+         "E(13, 1), card (11), data set 1"},
+        {"second set empty",
+         [](Store& s) { s.NPROB = 2, s.layered[2].NLG = 1, s.layered[2].LOADL[1].NR = ""; },
+         Fault::TypeMismatch, "NR(1), card (16), data set 2"},
+        {"sets beyond the store", [](Store& s) { s.NPROB = 6; }, Fault::SubscriptOutOfRange, "data set 6"},
+        {"no finite number", [](Store& s) { s.layered[1].DEL = std::numeric_limits<Single>::infinity(); },
+         Fault::Overflow, "DEL, card (4), data set 1"},
+    };
+    TemporaryDirectory folder;
+    folder.write("road.DAT", "old");
+    for (const auto& row : rows) {
+        const auto store = threeLayerStore();
+        row.spoil(*store);
+        try {
+            saveLayeredDeck(*store, folder.path() + "road.DAT");
+            ADD_FAILURE() << row.what;
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.fault(), row.fault) << row.what;
+            EXPECT_TRUE(std::string(error.what()).ends_with(row.place)) << error.what();
+        }
+        EXPECT_EQ(folder.read("road.DAT"), "old") << row.what;
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+/// Cuts the text, or doubles, drops, swaps or spoils some of its tokens.
+std::string mutated(const std::string& deck, RandomStores& random) {
+    std::vector<std::string> tokens;
+    std::istringstream stream(deck);
+    for (std::string token; stream >> token;)
+        tokens.push_back(token + (stream.peek() == '\r' ? "\r\n" : " "));
+    const auto any = [&] {
+        return static_cast<std::ptrdiff_t>(random.from(0, static_cast<int>(tokens.size()) - 1));
+    };
+    static const char* spoils[] = {"-1 ",  "0 ", "1E9 ", "1E39 ", "32768 ", "2.5 ",
+                                   "abc ", "\"", ",",    "\n",    "(9) ",   ""};
+    for (int times = random.from(1, 4); times > 0 && tokens.size() > 1; --times) {
+        const auto at = any();
+        const auto token = tokens.begin() + at;
+        switch (random.from(0, 4)) {
+            case 0:
+                tokens.erase(token + 1, tokens.end());
+                tokens.back().resize(
+                    static_cast<std::size_t>(random.from(0, static_cast<int>(token->size()))));
+                break;
+            case 1:
+                tokens.insert(token, std::string(*token));
+                break;
+            case 2:
+                tokens.erase(token);
+                break;
+            case 3:
+                std::swap(*token, tokens[static_cast<std::size_t>(any())]);
+                break;
+            default:
+                *token = spoils[random.from(0, 11)];
+        }
+    }
+    std::string text;
+    for (const auto& token : tokens) text += token;
+    return text;
+}
+
+TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {
+    constexpr unsigned seed = 4711;
+    RandomStores random(seed);
+    int complete = 0, failed = 0, notADeck = 0;
+    for (int round = 0; round < 300; ++round) {
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
+        const auto store = random.next();
+        ListReader in = ListReader::fromText(mutated(deckOf(*store), random));
+        DeckReadResult result;
+        ASSERT_NO_THROW(result = readLayeredDeck(in, *store));
+        ASSERT_EQ(result.sentence().empty(), result.outcome == Outcome::Complete);
+        ++(result.outcome == Outcome::Complete ? complete
+           : result.outcome == Outcome::Failed ? failed
+                                               : notADeck);
+    }
+    EXPECT_GT(complete, 0);
+    EXPECT_GT(failed, 0);
+    EXPECT_GT(notADeck, 0);
+}
+
+TEST(DeckKind, IsToldByTheThirdCard) {
+    const std::string slab =
+        " 1  (1) NPROB\r\nSlab\r\n 0  0  1  1  (3) NFOUND NDAMA NPY NLG\r\n 1  0  (4) NSLAB NJOINT\r\n";
+    const std::string shortLabels = replaced(threeLayerDeck, " (3) MATL NDAMA NPY NLG", " (3)");
+    const struct {
+        std::string text;
+        DeckKind kind;
+    } rows[] = {{threeLayerDeck, DeckKind::Layered},
+                {std::string(threeLayerDeck).substr(0, 80), DeckKind::Layered},
+                {slab, DeckKind::Slab},
+                {shortLabels, DeckKind::Layered},
+                {replaced(slab, " (3) NFOUND NDAMA NPY NLG", " (3)"), DeckKind::Unknown},
+                {"no deck", DeckKind::Unknown},
+                {"", DeckKind::Unknown}};
+    TemporaryDirectory folder;
+    for (const auto& row : rows) {
+        folder.write("deck.DAT", row.text);
+        EXPECT_EQ(deckKind(folder.path() + "deck.DAT"), row.kind) << row.text;
+    }
+    EXPECT_THROW(deckKind(folder.path() + "none.DAT"), RunTimeError);
+}
+
+}  // namespace

@@ -1,0 +1,157 @@
+#include "platform/qt/page_renderer.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include "platform/run_time_error.h"
+#include "support/temporary_directory.h"
+
+namespace {
+
+Page aPage() {
+    Page page{10815, 7650, {}};
+    const PageFont font;
+    page.ops.push_back(PageText{1700, 1500, "Radius =", false, 0xFF0000, font});
+    page.ops.push_back(PageText{{}, {}, " 4.5 ", false, 0xFF0000, font});
+    page.ops.push_back(PageText{{}, {}, "in.", true, 0xFF0000, font});
+    page.ops.push_back(PageText{{}, {}, "below", false, 0, font});
+    page.ops.push_back(PageLine{2000, 4000, 6000, 4000, 0, 1, false});
+    page.ops.push_back(PageLine{2000, 5000, 2010, 5000, 0xFF00FF, 3, false});
+    page.ops.push_back(PageCircle{4000, 6000, 500, 0, 1, 0x00FF00});
+    page.ops.push_back(PageBox{7000, 5000, 8000, 4500, 0, 1, {}});
+    return page;
+}
+
+struct Placed {
+    QString text;
+    double x, y;
+};
+
+std::vector<Placed> textsOfSvg(const std::string& svg) {
+    static const QRegularExpression form(R"rx(<text[^>]* x="([^"]*)" y="([^"]*)"[^>]*>([^<]*)<)rx");
+    std::vector<Placed> all;
+    for (auto found = form.globalMatch(QString::fromStdString(svg)); found.hasNext();) {
+        const auto match = found.next();
+        all.push_back({match.captured(3), match.captured(1).toDouble(), match.captured(2).toDouble()});
+    }
+    return all;
+}
+
+TEST(PageRenderer, TextGoesOnWhereTheLastOneEnded) {
+    TemporaryDirectory directory;
+    renderSvg(aPage(), directory.path() + "page.svg");
+    const auto texts = textsOfSvg(directory.read("page.svg"));
+    ASSERT_EQ(texts.size(), 4U);
+    const QFontMetricsF measures(twipFont({}));
+    EXPECT_NEAR(texts[0].x, 1700, 0.01);
+    EXPECT_NEAR(texts[0].y, 1500 + measures.ascent(), 0.01) << "the position is the text's top";
+    EXPECT_NEAR(texts[1].x, 1700 + measures.horizontalAdvance("Radius ="), 0.01);
+    EXPECT_EQ(texts[1].text, " 4.5 ") << "blanks are part of a number's text";
+    EXPECT_NEAR(texts[2].x, 1700 + measures.horizontalAdvance("Radius = 4.5 "), 0.01);
+    EXPECT_EQ(texts[3].x, 0);
+    EXPECT_NEAR(texts[3].y - texts[2].y, measures.lineSpacing(), 0.01);
+    // Ten points are 200 twips; the face is a metric twin of a common one, so its digits are known.
+    EXPECT_NEAR(measures.horizontalAdvance("0123456789"), 10 * 0.556 * 200, 1);
+}
+
+TEST(PageRenderer, PdfHoldsTextAtItsPlaceAndEmbedsTheFont) {
+    TemporaryDirectory directory;
+    const std::string path = directory.path() + "pages.pdf";
+    Page tall{7200, 14400, {PageText{720, 1440, "second page", false, 0, {"Courier New", 10, true}}}};
+    renderPdf({aPage(), tall}, path);
+    const std::string bytes = directory.read("pages.pdf");
+    EXPECT_TRUE(bytes.starts_with("%PDF"));
+    EXPECT_NE(bytes.find("/FontFile2"), std::string::npos);
+    EXPECT_NE(bytes.find("LiberationMono-Bold"), std::string::npos) << "the twin of Courier New";
+
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty()) GTEST_SKIP() << "no pdftotext";
+    QProcess reader;
+    reader.start("pdftotext", {"-bbox", QString::fromStdString(path), "-"});
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString layout = reader.readAllStandardOutput();
+    static const QRegularExpression word(R"rx(xMin="([\d.]+)"[^>]*>Radius<)rx");
+    const auto radius = word.match(layout);
+    ASSERT_TRUE(radius.hasMatch()) << layout.toStdString();
+    EXPECT_NEAR(radius.captured(1).toDouble(), 85, 0.01);
+    EXPECT_EQ(layout.count("<page "), 2);
+    EXPECT_TRUE(layout.contains(R"(<page width="360.000000" height="720.000000">)"));
+}
+
+/// Where ink is, as a share of the picture: the same at every resolution.
+QRectF inkOf(const QImage& picture) {
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixelColor(x, y).lightness() < 128) ink |= QRect(x, y, 1, 1);
+    return {double(ink.x()) / picture.width(), double(ink.y()) / picture.height(),
+            double(ink.width()) / picture.width(), double(ink.height()) / picture.height()};
+}
+
+TEST(PageRenderer, PicturesOfAllResolutionsShowTheSame) {
+    TemporaryDirectory directory;
+    Page page = aPage();
+    page.ops.resize(3);
+    std::vector<QRectF> inks;
+    for (const int dpi : {96, 150, 300}) {
+        renderPng(page, directory.path() + "page.png", dpi);
+        const QImage picture(QString::fromStdString(directory.path() + "page.png"));
+        EXPECT_EQ(picture.width(), qRound(10815.0 * dpi / 1440));
+        EXPECT_NEAR(picture.dotsPerMeterX(), dpi / 0.0254, 1);
+        inks.push_back(inkOf(picture));
+    }
+    for (const QRectF& ink : inks) {
+        EXPECT_NEAR(ink.left(), inks.back().left(), 0.002);
+        EXPECT_NEAR(ink.right(), inks.back().right(), 0.002);
+        EXPECT_NEAR(ink.bottom(), inks.back().bottom(), 0.002);
+    }
+}
+
+TEST(PageRenderer, ShapesHaveTheirColoursAndStraightLinesAreSharp) {
+    for (const double pixelsPerTwip : {0.1, 0.125, 0.15, 0.2, 0.25}) {
+        QImage image(QSize(int(10815 * pixelsPerTwip), int(7650 * pixelsPerTwip)), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        paintPage(painter, aPage(), pixelsPerTwip);
+        painter.end();
+        const auto at = [&](double x, double y) {
+            return image.pixelColor(int(x * pixelsPerTwip), int(y * pixelsPerTwip));
+        };
+        EXPECT_EQ(at(4000, 6000), QColor(0, 255, 0));
+        EXPECT_EQ(at(2005, 5000), QColor(255, 0, 255));
+        EXPECT_EQ(at(7500, 4750), QColor(Qt::white)) << "a box without fill";
+        for (int y = int(3900 * pixelsPerTwip); y < int(4100 * pixelsPerTwip); ++y) {
+            const QColor colour = image.pixelColor(int(3000 * pixelsPerTwip), y);
+            EXPECT_TRUE(colour == QColor(Qt::white) || colour == QColor(Qt::black)) << pixelsPerTwip;
+        }
+    }
+}
+
+TEST(PageRenderer, CoordinatesFarBeyondThePageAreHarmless) {
+    TemporaryDirectory directory;
+    const float far = 3e30F;
+    Page page{10815, 7650, {}};
+    page.ops = {PageLine{-far, 4000, far, 4000, 0, 1, false}, PageLine{0, far, far, far, 0, 1, true},
+                PageCircle{4000, 4000, far, 0, 1, {}},        PageCircle{far, 4000, 100, 0, 1, {}},
+                PageBox{-far, -far, far, 5000, 0, 1, {}},     PageText{far, far, "away", true, 0, {}}};
+    renderPng(page, directory.path() + "page.png", 96);
+    renderPdf({page}, directory.path() + "page.pdf");
+    const QImage picture(QString::fromStdString(directory.path() + "page.png"));
+    EXPECT_EQ(picture.pixelColor(300, 4000 * 96 / 1440), QColor(Qt::black)) << "the line crosses the page";
+}
+
+TEST(PageRenderer, AFailedFileLeavesTheOldOne) {
+    TemporaryDirectory directory;
+    directory.write("old.pdf", "old");
+    EXPECT_THROW(renderPdf({}, directory.path() + "old.pdf"), RunTimeError);
+    EXPECT_THROW(renderPng(aPage(), directory.path() + "old.pdf", 0), RunTimeError);
+    EXPECT_EQ(directory.read("old.pdf"), "old");
+    EXPECT_THROW(renderSvg(aPage(), directory.path() + "nowhere/page.svg"), RunTimeError);
+}
+
+}  // namespace

@@ -1,0 +1,123 @@
+// Layered data for tests: a plain three-layer road, and random stores that are
+// valid in every mix of materials, damage, interfaces and loads.
+#pragma once
+
+#include <memory>
+#include <random>
+#include <vector>
+
+#include "layered/layered_cards.h"
+#include "store/store.h"
+
+/// Three layers under one wheel with one point; every field that its cards need, nothing else.
+inline std::unique_ptr<Store> threeLayerStore() {
+    auto store = std::make_unique<Store>();
+    store->NPROB = 1;
+    LayeredSet& s = store->layered[1];
+    s.TITLE = "Three layers";
+    s.MATL = s.NPY = s.NLG = s.NBOND = 1;
+    s.DEL = .001f;
+    s.NL = 3;
+    s.NZ = 2;
+    s.ICL = 80;
+    s.NSTD = 9;
+    s.LAYER[1] = {4.0, .35, 145.0};
+    s.LAYER[2] = {8.0, .3f, 135.0};
+    s.LAYER[3] = {0, .45, 125.0};
+    s.ZC[1] = 0;
+    s.ZC[2] = 4.0001;
+    s.EMOD[1][1] = 400000.0;
+    s.EMOD[1][2] = 2.5e4f;
+    s.EMOD[1][3] = 7500;
+    s.LOADL[1] = {0, 4.5f, 100.0f, 0.0f, 0.0f, 1.0f};
+    s.RC[1][1] = 0;
+    return store;
+}
+
+class RandomStores {
+  public:
+    explicit RandomStores(unsigned seed) : random_(seed) {}
+
+    std::unique_ptr<Store> next() {
+        auto store = std::make_unique<Store>();
+        store->NPROB = static_cast<Integer>(from(1, 5));
+        for (int n = 1; n <= store->NPROB; ++n) fill(store->layered[n]);
+        return store;
+    }
+    int from(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
+
+  private:
+    /// At most six digits: such a number keeps its value through the seven digits of a Single.
+    Double someNumber() {
+        return ToDouble(std::to_string(from(-999999, 999999)) + "E" + std::to_string(from(-12, 6)));
+    }
+
+    Variant someCell() {
+        const Double value = someNumber();
+        switch (from(0, 4)) {
+            case 0:
+                return from(-20000, 20000);
+            case 1:
+                return static_cast<Single>(value);
+            case 2:
+                return numberText(value);
+            case 3:
+                return Variant(" " + std::to_string(from(0, 99)) + ". ");
+            default:
+                return value;
+        }
+    }
+    Variant someCount(int most) {
+        const int count = from(0, 3) == 0 ? from(0, most) : from(0, 3);
+        return from(0, 1) ? Variant(static_cast<Double>(count)) : Variant(std::to_string(count));
+    }
+    Single count(int most) { return static_cast<Single>(someCount(most).number()); }
+
+    void randomize(Cell cell) {
+        if (auto* whole = std::get_if<Integer*>(&cell)) **whole = static_cast<Integer>(from(-32768, 32767));
+        if (auto* single = std::get_if<Single*>(&cell)) **single = static_cast<Single>(someNumber());
+        if (auto* variant = std::get_if<Variant*>(&cell)) **variant = someCell();
+    }
+
+    /// Every field of every card beyond the ones that steer, which fill() sets.
+    class Filler : public CardWalker<LayeredSet> {
+      public:
+        Filler(RandomStores& random, LayeredSet& set, DeckPlace& where)
+            : CardWalker(set, where), random_(random) {}
+
+      private:
+        void value(const Card<LayeredSet>&, const Run<LayeredSet>&, Cell cell) override {
+            static const std::vector<std::string> steering = {
+                "TITLE", "MATL", "NDAMA", "NPY",   "NLG", "NL",    "NZ",   "NBOND", "LOAD",
+                "NR",    "NPT",  "NOLAY", "NCLAY", "NVL", "NTYME", "NLBT", "NLTC"};
+            if (std::find(steering.begin(), steering.end(), where_.field) == steering.end())
+                random_.randomize(cell);
+        }
+        RandomStores& random_;
+    };
+
+    void fill(LayeredSet& s) {
+        s.TITLE = from(0, 5) == 0 ? "" : "Road " + std::to_string(from(1, 999)) + ": 5\" of \"mix\"; wet";
+        s.MATL = static_cast<Single>(from(1, 4));
+        s.NDAMA = static_cast<Single>(from(0, 2));
+        s.NBOND = static_cast<Single>(from(0, 2));
+        s.NPY = count(12);
+        s.NLG = count(12);
+        s.NL = std::max(1.0f, count(19));
+        s.NZ = count(19);
+        s.NLBT = count(19);
+        s.NLTC = count(19);
+        s.NOLAY = someCount(12);
+        s.NVL = someCount(12);
+        s.NTYME = someCount(15);
+        for (int n = 1; n <= 12; ++n) {
+            s.LOADL[n].LOAD = from(0, 3);
+            s.LOADL[n].NR = someCount(25);
+            s.NOLLAY[n].NCLAY = from(0, 1);
+        }
+        DeckPlace where;
+        Filler(*this, s, where).walk(layeredCards());
+    }
+
+    std::mt19937 random_;
+};
