@@ -10,6 +10,7 @@
 #include "platform/dialogs.h"
 #include "platform/files.h"
 #include "store/data_paths.h"
+#include "store/frm_file_list.h"
 #include "store/store.h"
 
 namespace {
@@ -21,15 +22,6 @@ const char* const noSuchDrive =
     "using Drive A:, you can still click OK but change A:\\ in the DataPath box to the directory you want.";
 
 }  // namespace
-
-int FillFileList(const std::string& directory, const std::string& pattern, ComboBox& box) {
-    if (!directory.ends_with('/')) return 0;
-    box.clearList();
-    const std::vector<std::string> names = listFiles(directory, pattern);
-    for (const std::string& name : names) box.addListItem(name);
-    if (!names.empty()) box.setListIndex(0);
-    return static_cast<int>(names.size());
-}
 
 // --- The page -------------------------------------------------------------------------------------------
 

@@ -10,11 +10,6 @@
 
 class QBoxLayout;
 
-/// Puts the names of the files in `directory` that match `pattern` into the box's list and selects the first
-/// one. Gives their number; a directory without "/" at its end gives 0 and changes nothing, one without such
-/// files leaves the box's text alone. PermissionDenied for a directory that cannot be read.
-int FillFileList(const std::string& directory, const std::string& pattern, ComboBox& box);
-
 class frmTOLMARK : public Form {
   public:
     explicit frmTOLMARK(Program& program);
