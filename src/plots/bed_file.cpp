@@ -24,6 +24,10 @@ class Source {
     void item(Single& value) { value = in_.readSingle(); }
     void item(Variant& value) { value = in_.readDouble(); }
     void endLine() {}
+    /// The plot holds fewer radial coordinates than a deck may have.
+    void radialPoints(Integer NR) {
+        if (NR > BedProblem::RADIAL_POINTS) throw RunTimeError(Fault::SubscriptOutOfRange, "RC");
+    }
 
     /// What a further axle adds to ratios from..to of one period and load group.
     void additions(Bounded<Single, 19>& ratios, int from, int to) {
@@ -54,6 +58,7 @@ class Sink {
             put(value.number());
     }
     void endLine() { out_.endLine(); }
+    void radialPoints(Integer) {}
 
     void additions(const Bounded<Single, 19>&, int from, int to) {
         for (int j = from; j <= to; ++j) item(Single{0});
@@ -94,6 +99,7 @@ void loadGroup(File& file, Bed& bed, int g) {
         list(file, 1, bed.NPT[g], bed.XPT[g], bed.YPT[g]);
     } else {
         line(file, bed.NR[g]);
+        file.radialPoints(bed.NR[g]);
         list(file, 1, bed.NR[g], bed.RC[g]);
     }
 }

@@ -39,8 +39,10 @@ struct BedProblem {
     PerLoad<Integer> NPT;    ///< if LOAD is not 0: XW, YW, XPT, YPT too
     PerLoad<Single> XW, YW;  ///< axle spacing along x, dual spacing along y
     PerLoad<Bounded<Single, 25>> XPT, YPT;
+    /// More radial coordinates than this, which a deck may have, are written but cannot be plotted.
+    static constexpr Integer RADIAL_POINTS = 10;
     PerLoad<Integer> NR;  ///< if LOAD is 0: RC too
-    PerLoad<Bounded<Single, 10>> RC;
+    PerLoad<Bounded<Single, 25>> RC;
 
     // Nonlinear block, MATL 2 or 4. The constants stand under their layer's number.
     Integer NOLAY = 0;

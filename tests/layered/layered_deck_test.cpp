@@ -1,7 +1,9 @@
 #include "layered/layered_deck.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <csignal>
 #include <sstream>
 
 #include "platform/run_time_error.h"
@@ -364,6 +366,45 @@ TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
         EXPECT_EQ(folder.read("road.DAT"), "old") << row.what;
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+/// A disk that takes files of so many bytes and no more, while the object lives.
+class SmallDisk {
+  public:
+    explicit SmallDisk(std::size_t room) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{room, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~SmallDisk() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+
+  private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+TEST(LayeredDeck, ADiskThatFillsUpAnywhereLeavesTheOldDeckWhole) {
+    TemporaryDirectory folder;
+    folder.write("road.DAT", "old");
+    const auto store = threeLayerStore();
+    const std::size_t size = deckOf(*store).size();
+    for (std::size_t room = 0; room < size; ++room) {
+        bool full = false;
+        try {
+            const SmallDisk disk(room);
+            saveLayeredDeck(*store, folder.path() + "road.DAT");
+        } catch (const RunTimeError& error) {
+            full = error.fault() == Fault::DiskFull;
+        }
+        ASSERT_TRUE(full) << room;
+        ASSERT_EQ(folder.read("road.DAT"), "old") << room;
+    }
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+    saveLayeredDeck(*store, folder.path() + "road.DAT");
+    EXPECT_EQ(folder.read("road.DAT"), deckOf(*store));
 }
 
 /// Cuts the text, or doubles, drops, swaps or spoils some of its tokens.

@@ -1,9 +1,12 @@
 #include "solvers/tolstrat/report.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <string_view>
 
+#include "plots/bed_file.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {
@@ -11,7 +14,6 @@ namespace {
 using layered_theory::Response;
 
 constexpr const char* LINE_END = "\r\n";
-constexpr int PLOT_RADIAL_POINTS = 10;
 
 template <class... Values>
 std::string printed(const char* pattern, Values... values) {
@@ -25,6 +27,11 @@ int count(double value) { return static_cast<int>(value); }
 std::string cell(double value) { return printed(" %12.5g", value); }
 
 void line(std::ostream& out, const std::string& text = "") { out << text << LINE_END; }
+
+/// Components below this share of the largest beside them are round-off and print as 0.
+constexpr double ROUND_OFF = 1e-12;
+
+bool smaller(double a, double b) { return std::abs(a) < std::abs(b); }
 
 /// A row of numbers under a name, continued below itself after `perLine`.
 void row(std::ostream& out, const std::string& name, int first, int last, auto value, int perLine = 8) {
@@ -190,8 +197,10 @@ void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& g
         for (const char* name : block.heads) head += printed(" %12s", name);
         line(out, head);
         eachResponse(group, [&](std::size_t point, std::size_t depth, const Response& response) {
+            const auto values = block.values(response);
+            const double largest = std::abs(*std::max_element(values.begin(), values.end(), smaller));
             std::string text = placeText(group, point, depth);
-            for (double value : block.values(response)) text += cell(value);
+            for (double value : values) text += cell(std::abs(value) < ROUND_OFF * largest ? 0 : value);
             line(out, text + (response.converged ? "" : " *"));
         });
     }
@@ -199,12 +208,12 @@ void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& g
 
 void writePlotNotes(std::ostream& out, const LayeredSet& set) {
     for (int group = 1; group <= count(set.NLG); ++group) {
-        if (set.LOADL[group].LOAD.number() == 0 && set.LOADL[group].NR.number() > PLOT_RADIAL_POINTS) {
+        if (set.LOADL[group].LOAD.number() == 0 && set.LOADL[group].NR.number() > BedProblem::RADIAL_POINTS) {
             line(out);
             line(out,
                  printed(
                      "Note: load group %d has more than %d radial coordinates, which the plot cannot show.",
-                     group, PLOT_RADIAL_POINTS));
+                     group, BedProblem::RADIAL_POINTS));
         }
     }
     if (set.NL == 1) {
