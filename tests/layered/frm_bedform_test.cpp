@@ -199,6 +199,10 @@ TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
     click(*menu, "optDataSet3");
     EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8)) << "not copied again";
     EXPECT_EQ(caption("lblDamage"), "input");
+
+    newRoad();
+    click(*menu, "optDataSet3");
+    EXPECT_EQ(store.layered[3].TITLE, "Three layers") << "another new file";
 }
 
 TEST_F(Bedform, ADataSetThatAnEarlierFileMadeIsNotCopiedAgain) {
@@ -307,6 +311,12 @@ TEST_F(Bedform, SaveWritesANewFileUnderItsBareNameInTheDataDirectory) {
     EXPECT_EQ(titleInDeck(directory.path() + "UNTITLED.DAT"), "Three layers");
     EXPECT_EQ(mainBox("cmbFileName"), "UNTITLED.DAT");
 
+    const TemporaryDirectory elsewhere;
+    main->control<ComboBox>("cmbDataPath").setTextValue(elsewhere.path());
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    EXPECT_EQ(titleInDeck(elsewhere.path() + "UNTITLED.DAT"), "Three layers");
+
     click(*menu, "cmdExit");  // nobody asks
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(store.DataLoaded, 0);
@@ -386,6 +396,7 @@ TEST_F(Bedform, ACancelledSaveAsSavesUnderThePresentName) {
     main->control<ComboBox>("cmbDataPath").setTextValue(directory.path());  // the user moved on meanwhile
     dialogs.expectBox(saved("road.dat"));
     saveAs(std::nullopt);
+    EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
     EXPECT_EQ(titleInDeck(directory.path() + "road.dat"), "Three layers");
     EXPECT_EQ(caption("lblFile"), "road");
 }

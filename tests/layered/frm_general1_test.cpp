@@ -195,18 +195,4 @@ TEST_F(General1, KeepsTheDataSetOfItsLoad) {
     EXPECT_EQ(set.TITLE, "");
 }
 
-TEST_F(General1, PrintsItsSeventeenParagraphs) {
-    click(general(), "cmdPrint");
-    ASSERT_EQ(printer.jobs.size(), 2U);
-    EXPECT_EQ(printer.jobs[0].size, 10);
-    int paragraphs = 0;
-    for (const auto& job : printer.jobs) {
-        for (const std::string& line : job.lines) {
-            const std::string number = "(" + std::to_string(paragraphs + 1) + ")";
-            if (line.starts_with(std::string(11, ' ') + number)) ++paragraphs;
-        }
-    }
-    EXPECT_EQ(paragraphs, 17);
-}
-
 }  // namespace

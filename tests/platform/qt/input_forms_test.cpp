@@ -166,6 +166,16 @@ TEST_F(InputForms, AMenuAndItsWordDoTheSameAndTheWordStandsUnderIt) {
     EXPECT_EQ(menu.control<StatusLabel>("lblFile").foreColor(), StatusLabel::red);
 }
 
+TEST_F(InputForms, AMenuWithEntriesDropsThemDown) {
+    QTimer::singleShot(0, [] {
+        QWidget* entries = QApplication::activePopupWidget();
+        ASSERT_NE(entries, nullptr);
+        QTest::keyClick(entries, Qt::Key_N);
+    });
+    click(menu.control<MenuButton>("mnuFile"));
+    EXPECT_EQ(menu.created, 1);
+}
+
 TEST_F(InputForms, AStatusWordFollowsItsRule) {
     auto& label = menu.control<StatusLabel>("lblData");
     const struct {
