@@ -63,8 +63,6 @@ TEST_F(Bedform, StartsWithTheNameOfTheMainScreenAndFirstDataSet) {
     EXPECT_EQ(printer.jobs.at(0).size, 10);
 }
 
-// --- Menus ---------------------------------------------------------------
-
 struct MenuCase {
     const char *menu, *label;
     std::function<void(LayeredSet&)> refused;  ///< empty: always opens
@@ -159,8 +157,6 @@ TEST_F(Bedform, ACountBeyondEveryTableIsTold) {
     EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
 }
 
-// --- New and data sets ------------------------------------------------------
-
 TEST_F(Bedform, NewSetsDefaultsAndLeavesButtonsAndDoneWords) {
     click(*menu, "optDataSet2");
     screens.done("frmBEDFORM", "lblLayer");
@@ -225,8 +221,6 @@ TEST_F(Bedform, AfterACheckAClickLeadsBackToTheDataSet) {
     click(*menu, "optDataSet2");
     EXPECT_EQ(store.CurLayDS, 2);
 }
-
-// --- Old --------------------------------------------------------------------
 
 TEST_F(Bedform, OldReadsADeckAndTellsTheMainScreen) {
     const TemporaryDirectory elsewhere;
@@ -301,8 +295,6 @@ TEST_F(Bedform, AFileThatIsNoLayeredDeckUnloadsAndABrokenOneStaysAsFarAsRead) {
     EXPECT_EQ(caption("lblZcoord"), "done") << "the words are left alone";
     EXPECT_EQ(set.TITLE, "Three layers");
 }
-
-// --- Saving -----------------------------------------------------------------
 
 TEST_F(Bedform, SaveWritesANewFileUnderItsBareNameInTheDataDirectory) {
     newRoad();
@@ -408,8 +400,6 @@ TEST_F(Bedform, AFailedSaveAsIsSilentAndTheExitStillAsks) {
     click(*menu, "cmdExit");
     EXPECT_FALSE(isOpen());
 }
-
-// --- Leaving ----------------------------------------------------------------
 
 TEST_F(Bedform, ExitAndFrameAskTheSame) {
     const std::function<void()> ways[] = {[&] { click(*menu, "cmdExit"); }, [&] { menu->close(); }};

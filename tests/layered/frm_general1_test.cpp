@@ -127,15 +127,6 @@ TEST_F(General1, ATitleNeedsTextWithoutACommaAndIsStoredAllTheSame) {
     EXPECT_TRUE(isOpen());
 }
 
-TEST_F(General1, ANumberThatNoSingleHoldsIsTold) {
-    fillWhatIsAsked();
-    type(general(), "txtIcl", "1E39");
-    dialogs.expectBox("Overflow");
-    click(general(), "cmdOk");
-    EXPECT_TRUE(isOpen());
-    EXPECT_EQ(set.ICL, 80);
-}
-
 TEST_F(General1, ClosedByItsFrameItStoresNothingButHasBeenVisited) {
     type(general(), "txtTitle1", "gone");
     general().close();

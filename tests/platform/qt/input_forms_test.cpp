@@ -24,16 +24,12 @@ struct Values {
 class Trial : public ValueForm {
   public:
     Trial(Values& values, Dialogs& dialogs, Printer& printer) : ValueForm("frmTrial", dialogs, printer) {
-        build(
-            {{"txtText", "A text", &values.text},
-             {"txtWhole",
-              "A whole number (N)",
-              &values.whole,
-              {{[&] { return values.whole > 9; }, "too large"}, {[&] { return values.whole == 0; }, "none"}}},
-             {"txtSingle", "A number                       (X)", &values.single},
-             {"txtPrecise", "Another with much more to say in its caption (1=yes, 0=no) (LONGNAME)",
-              &values.precise},
-             {"txtCell", "A cell (C)", &values.cell}});
+        build({{"txtText", "A text", &values.text},
+               {"txtWhole", "A whole number (N)", &values.whole},
+               {"txtSingle", "A number                       (X)", &values.single},
+               {"txtPrecise", "Another with much more to say in its caption (1=yes, 0=no) (LONGNAME)",
+                &values.precise},
+               {"txtCell", "A cell (C)", &values.cell}});
     }
     void Form_Load() override {
         showFields();
@@ -123,19 +119,6 @@ TEST_F(InputForms, ShowAndStoreEachTypeOfField) {
     EXPECT_EQ(values.cell, Variant(0));
 }
 
-TEST_F(InputForms, ChecksRunInOrderRightAfterTheirField) {
-    enter("txtWhole", "10");
-    enter("txtSingle", "5");
-    dialogs.expectBox("too large");
-    ok();
-    EXPECT_EQ(values.whole, 10);
-    EXPECT_EQ(values.single, 0.1F);
-    enter("txtWhole", "");
-    dialogs.expectBox("none");
-    ok();
-    EXPECT_EQ(trial.stored, 0);
-}
-
 TEST_F(InputForms, ANumberThatDoesNotFitIsToldAndNotStored) {
     for (const auto& [box, beyond] : {std::pair{"txtWhole", "32767.5"}, {"txtSingle", "-4E38"}}) {
         trial.showFields();
@@ -174,28 +157,6 @@ TEST_F(InputForms, AMenuWithEntriesDropsThemDown) {
     });
     click(menu.control<MenuButton>("mnuFile"));
     EXPECT_EQ(menu.created, 1);
-}
-
-TEST_F(InputForms, AStatusWordFollowsItsRule) {
-    auto& label = menu.control<StatusLabel>("lblData");
-    const struct {
-        const char* before;
-        bool needsInput, keepDone;
-        const char* word;
-        int colour;
-    } cases[] = {
-        {"done", true, true, "done", StatusLabel::red},
-        {"done", true, false, "input", StatusLabel::red},
-        {"default", true, true, "input", StatusLabel::red},
-        {"done", false, true, "default", StatusLabel::blue},
-    };
-    for (const auto& c : cases) {
-        label.setForeColor(0);
-        label.setCaption(c.before);
-        showStatus(label, c.needsInput, c.keepDone);
-        EXPECT_EQ(label.caption(), c.word);
-        EXPECT_EQ(label.foreColor(), c.colour);
-    }
 }
 
 TEST_F(InputForms, PrintTakesAFreeAccessKey) {
