@@ -1,0 +1,22 @@
+#include "program/screens.h"
+
+#include "platform/qt/form.h"
+#include "plots/frm_bedplot.h"
+#include "store/frm_tolmark.h"
+
+namespace {
+
+/// Of the table forms only one is open.
+const char* const tables = "table";
+
+template <class Screen>
+Screens::Make make(Program& program) {
+    return [&program] { return std::make_unique<Screen>(program); };
+}
+
+}  // namespace
+
+void addScreens(Screens& screens, Program& program) {
+    screens.add("frmTOLMARK", make<frmTOLMARK>(program));
+    screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+}
