@@ -144,8 +144,6 @@ void frmBEDFORM::Form_Load() {
     present();
 }
 
-// --- Menus ---------------------------------------------------------------
-
 /// Even a click that is refused counts as a change.
 void frmBEDFORM::dataMenu_Click(std::size_t row) {
     const DataMenu& menu = dataMenus[row];
@@ -232,8 +230,6 @@ void frmBEDFORM::showDataSets() {
     }
 }
 
-// --- Data sets ------------------------------------------------------------
-
 /// The first click on a data set that the deck does not have makes it, as a copy of the first one.
 void frmBEDFORM::optDataSet_Click(int n) {
     store_.CurLayDS = n;
@@ -253,8 +249,6 @@ void frmBEDFORM::ColorCode(int n) {
         showStatus(control<StatusLabel>(rule.label), rule.needsInput(store_.layered[n]), false);
     }
 }
-
-// --- Saving ---------------------------------------------------------------
 
 bool frmBEDFORM::errorFound() {
     const auto missing = ErrCheck1(store_);
