@@ -6,9 +6,6 @@
 
 namespace {
 
-/// Of the table forms only one is open.
-const char* const tables = "table";
-
 template <class Screen>
 Screens::Make make(Program& program) {
     return [&program] { return std::make_unique<Screen>(program); };
