@@ -95,6 +95,7 @@ HelpBox::HelpBox(const std::string& name, QWidget* parent) : QPlainTextEdit(pare
     setFont(face);
     setReadOnly(true);
     setTabChangesFocus(true);
+    document()->setDocumentMargin(8);
 }
 
 void HelpBox::setTextValue(const std::string& text) {

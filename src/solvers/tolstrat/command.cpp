@@ -43,14 +43,22 @@ struct BadDeck : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// A wrong count makes the reading fail further down; then the count is what the user must hear of.
+bool standsBefore(const DeckPlace& a, const DeckPlace& b) {
+    return std::pair(a.set, a.card) < std::pair(b.set, b.card);
+}
+
 /// Reads and checks the deck; afterwards every data set in the store can be solved.
 void readDeck(const std::string& path, Store& store) {
     const DeckReadResult read = readLayeredDeck(path, store);
     if (read.outcome == DeckReadResult::Outcome::NotADeck) {
         throw BadDeck("this is not a layered deck: " + read.sentence());
     }
-    if (read.outcome == DeckReadResult::Outcome::Failed) throw BadDeck(read.sentence());
-    if (const auto fault = checkLayeredDeck(store)) throw BadDeck(fault->sentence);
+    const auto fault = checkLayeredDeck(store);
+    if (read.outcome == DeckReadResult::Outcome::Failed) {
+        throw BadDeck(fault && standsBefore(fault->where, read.where) ? fault->sentence : read.sentence());
+    }
+    if (fault) throw BadDeck(fault->sentence);
     for (int n = 1; n <= store.NPROB; ++n) {
         const LayeredSet& set = store.layered[n];
         if (set.MATL != 1) {

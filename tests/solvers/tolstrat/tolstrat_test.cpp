@@ -208,18 +208,18 @@ TEST(Tolstrat, RefusesBadDecksInOneSentence) {
         const char *label, *values, *expected;
     };
     const Case cases[] = {
-        {" (5) NL NZ ICL NSTD NUNIT", " 0  4  80  9  0 ", "NL, card (5), data set 1"},
-        {" (5) NL NZ ICL NSTD NUNIT", " 20  4  80  9  0 ", "(5)"},
-        {" (5) NL NZ ICL NSTD NUNIT", " 3  4  80  7  0 ", "NSTD, card (5)"},
-        {" (6) TH", "-6   8  ", "TH(1), card (6)"},
-        {" (6) TH", " 6   0  ", "TH(2), card (6)"},
-        {" (7) PR", " .35   .6   .45  ", "PR(2), card (7)"},
-        {" (7) PR", " .35   .3   -1  ", "PR(3), card (7)"},
-        {" (11) E", " 400000   0   8000  ", "card (11)"},
+        {" (5) NL NZ ICL NSTD NUNIT", " 0  4  80  9  0 ", "NL is 0, card (5), data set 1"},
+        {" (5) NL NZ ICL NSTD NUNIT", " 20  4  80  9  0 ", "NL is 20, card (5)"},
+        {" (5) NL NZ ICL NSTD NUNIT", " 3  4  80  7  0 ", "NSTD is 7, card (5)"},
+        {" (6) TH", "-6   8  ", "TH(1) is -6, card (6)"},
+        {" (6) TH", " 6   0  ", "TH(2) is 0, card (6)"},
+        {" (7) PR", " .35   .6   .45  ", "PR(2) is .6, card (7)"},
+        {" (7) PR", " .35   .3   -1  ", "PR(3) is -1, card (7)"},
+        {" (11) E", " 400000   0   8000  ", "E(1, 2) is 0, card (11)"},
         {" (11) E", " 400000   many   8000  ", "card (11)"},
         {" (11) E", " 400000   1e400   8000  ", "card (11)"},
-        {" (14) CR CP", " 0   80  ", "CR, card (14)"},
-        {" (3) MATL NDAMA NPY NLG", " 2  0  1  1 ", "card"},
+        {" (14) CR CP", " 0   80  ", "CR(1) is 0, card (14)"},
+        {" (3) MATL NDAMA NPY NLG", " 2  0  1  1 ", "NOLAY, card (25)"},
     };
     for (const Case& test : cases) {
         const TemporaryDirectory folder;
