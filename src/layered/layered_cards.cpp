@@ -9,8 +9,6 @@ using enum Layout;
 
 namespace {
 
-bool isNonlinear(const Set& s) { return s.MATL == 2 || s.MATL == 4; }
-bool isViscous(const Set& s) { return s.MATL == 3 || s.MATL == 4; }
 bool isClay(const Set& s, int n) { return s.NOLLAY[n].NCLAY.number() != 0; }
 
 constexpr Count<Set> periods = N(s.NPY), groups = N(s.NLG), layers = N(s.NL), interfaces = N(s.NL - 1),

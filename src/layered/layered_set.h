@@ -85,3 +85,7 @@ struct LayeredSet {
     Bounded<TopCompression, 19> DAMTC;
     Bounded<Bounded<Single, 12>, 12> TNLR;  ///< [period][load group]
 };
+
+/// What MATL says of the layers.
+inline bool isNonlinear(const LayeredSet& set) { return set.MATL == 2 || set.MATL == 4; }
+inline bool isViscous(const LayeredSet& set) { return set.MATL == 3 || set.MATL == 4; }

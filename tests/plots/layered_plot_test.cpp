@@ -232,7 +232,7 @@ TEST(LayeredPlot, NumbersShownAreRoundedForThePagesThatFollow) {
     for (const Page& page : pages) EXPECT_EQ(textAt(page, left - 520, second - 100), " 4 ");
 
     const auto creep = pagesOf(combined);
-    EXPECT_EQ(textStarting(creep[1], "7.0").text, "7.000E-05 9.000E-05 per kPa  GAM = 22  kN/m^3");
+    EXPECT_EQ(textStarting(creep[1], "7.0").text, textStarting(creep[0], "7.0").text);
 }
 
 TEST(LayeredPlot, PagesRunThroughGroupsPeriodsAndProblems) {

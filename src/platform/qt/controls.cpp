@@ -3,11 +3,10 @@
 #include <QMouseEvent>
 #include <QSignalBlocker>
 
+#include "platform/qt/page_renderer.h"
 #include "platform/run_time_error.h"
 
 namespace {
-
-QString shown(const std::string& text) { return QString::fromStdString(text); }
 
 /// Colour values of forms count blue, green, red from the high byte down.
 QColor fromBgr(int value) { return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF); }
@@ -15,13 +14,13 @@ QColor fromBgr(int value) { return QColor(value & 0xFF, (value >> 8) & 0xFF, (va
 }  // namespace
 
 Label::Label(const std::string& name, const std::string& caption, QWidget* parent) : QLabel(parent) {
-    setObjectName(shown(name));
+    setObjectName(pageText(name));
     setTextFormat(Qt::PlainText);
     setCaption(caption);
 }
 
 std::string Label::caption() const { return text().toStdString(); }
-void Label::setCaption(const std::string& caption) { setText(shown(caption)); }
+void Label::setCaption(const std::string& caption) { setText(pageText(caption)); }
 
 void Label::mousePressEvent(QMouseEvent* event) {
     QLabel::mousePressEvent(event);
@@ -51,18 +50,18 @@ void StatusLabel::blueDefault() {
 void StatusLabel::done() { setCaption("done"); }
 
 Button::Button(const std::string& name, const std::string& caption, QWidget* parent) : QPushButton(parent) {
-    setObjectName(shown(name));
+    setObjectName(pageText(name));
     setCaption(caption);
     setAutoDefault(true);  // Enter presses the button that has the focus, and no other
     connect(this, &QPushButton::clicked, this, [this] { dispatch(onClick); });
 }
 
 std::string Button::caption() const { return text().toStdString(); }
-void Button::setCaption(const std::string& caption) { setText(shown(caption)); }
+void Button::setCaption(const std::string& caption) { setText(pageText(caption)); }
 
 OptionButton::OptionButton(const std::string& name, const std::string& caption, QWidget* parent)
-    : QRadioButton(shown(caption), parent) {
-    setObjectName(shown(name));
+    : QRadioButton(pageText(caption), parent) {
+    setObjectName(pageText(name));
     connect(this, &QRadioButton::clicked, this, [this] { dispatch(onClick); });
 }
 
@@ -76,12 +75,12 @@ void OptionButton::setValue(bool value) {
 }
 
 TextBox::TextBox(const std::string& name, const std::string& text, QWidget* parent) : QLineEdit(parent) {
-    setObjectName(shown(name));
+    setObjectName(pageText(name));
     setTextValue(text);
 }
 
 std::string TextBox::textValue() const { return text().toStdString(); }
-void TextBox::setTextValue(const std::string& text) { setText(shown(text)); }
+void TextBox::setTextValue(const std::string& text) { setText(pageText(text)); }
 
 void TextBox::mousePressEvent(QMouseEvent* event) {
     QLineEdit::mousePressEvent(event);
@@ -89,22 +88,23 @@ void TextBox::mousePressEvent(QMouseEvent* event) {
 }
 
 HelpBox::HelpBox(const std::string& name, QWidget* parent) : QPlainTextEdit(parent) {
-    setObjectName(shown(name));
+    setObjectName(pageText(name));
     QFont face("Liberation Mono", 9);
     face.setStyleHint(QFont::TypeWriter);
     face.setFixedPitch(true);
     setFont(face);
     setReadOnly(true);
     setTabChangesFocus(true);
+    document()->setDocumentMargin(8);
 }
 
 void HelpBox::setTextValue(const std::string& text) {
     text_ = text;
-    setPlainText(shown(text));
+    setPlainText(pageText(text));
 }
 
 ComboBox::ComboBox(const std::string& name, QWidget* parent) : QComboBox(parent) {
-    setObjectName(shown(name));
+    setObjectName(pageText(name));
     setEditable(true);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
@@ -118,7 +118,7 @@ std::string ComboBox::textValue() const { return currentText().toStdString(); }
 
 void ComboBox::setTextValue(const std::string& text) {
     if (text == textValue()) return;
-    setEditText(shown(text));
+    setEditText(pageText(text));
     dispatch(onChange);
 }
 
@@ -136,7 +136,7 @@ std::string ComboBox::listText(int index) const {
 void ComboBox::addListItem(const std::string& text) { insertListItem(text, count()); }
 
 void ComboBox::insertListItem(const std::string& text, int position) {
-    changeList([&] { insertItem(position, shown(text)); });
+    changeList([&] { insertItem(position, pageText(text)); });
 }
 
 void ComboBox::removeListItem(int position) {

@@ -1,0 +1,38 @@
+// The rules of layered data that need no screen: what a new file holds, what a
+// new data set takes over, what may not be missing at a save, and which menus
+// ask for input.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+struct LayeredSet;
+struct Store;
+
+/// A data set of a new file. Some arrays are cleared only in part; what lies beyond stays as it was.
+void setNewFileDefaults(LayeredSet& set);
+
+/// The values of a new file that depend on its system of units: shift factors, temperatures and, in SI,
+/// the first fatigue coefficient.
+void setUnitDefaults(LayeredSet& set);
+
+/// Copies data set 1 into data set n, as far as the counts of data set 1 reach. A failure on the way (a count
+/// that is no number, or beyond the store) ends it silently; what was copied stays.
+void Initial(Store& store, int n);
+
+/// The first thing that is missing in data set 1, as the message that says so, or nothing. Looks at data set
+/// 1 only and leaves it the current one, whatever the menu's buttons show: kept.
+std::optional<std::string> ErrCheck1(Store& store);
+
+/// A menu's status label and when it asks for input; otherwise its defaults stand.
+struct StatusRule {
+    const char* label;
+    bool (*needsInput)(const LayeredSet& set);
+};
+using StatusRules = std::array<StatusRule, 5>;
+
+/// After a choice of data set and after reading a file, and the milder ones after the general information.
+/// They differ in `lblZcoord`: NDAMA decides here, NZ there. Kept.
+extern const StatusRules colorCodeRules;
+extern const StatusRules generalRules;

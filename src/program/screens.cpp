@@ -1,0 +1,23 @@
+#include "program/screens.h"
+
+#include "grid/frm_table.h"
+#include "layered/frm_layered.h"
+#include "platform/qt/form.h"
+#include "plots/frm_bedplot.h"
+#include "store/frm_tolmark.h"
+
+namespace {
+
+template <class Screen>
+Screens::Make make(Program& program) {
+    return [&program] { return std::make_unique<Screen>(program); };
+}
+
+}  // namespace
+
+void addScreens(Screens& screens, Program& program) {
+    screens.add("frmTOLMARK", make<frmTOLMARK>(program));
+    addLayeredForms(program);
+    addTableForms(program);
+    screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+}

@@ -1,0 +1,392 @@
+// The table forms as a user works them: real keys and mouse clicks on real
+// widgets. What the keys mean for the texts is tested on the engine; here it is
+// whether each key and click gets there, and what is on the screen afterwards.
+#include "grid/frm_table.h"
+
+#include <gtest/gtest.h>
+
+#include <QScrollBar>
+#include <QtTest>
+
+#include "store/store.h"
+#include "support/quiet_desktop.h"
+#include "support/recording_printer.h"
+#include "support/scripted_dialogs.h"
+
+namespace {
+
+/// A caller with the labels that tables mark.
+class Caller : public Form {
+  public:
+    Caller(const std::string& name, const std::vector<std::string>& labels) : Form(name) {
+        for (const std::string& label : labels) (new StatusLabel(label, "", this))->input();
+    }
+    void Form_Load() override {}
+};
+
+class TableFormTest : public ::testing::Test {
+  protected:
+    TableFormTest() {
+        setDispatchDialogs(&dialogs);
+        screens.add("frmBEDFORM", [] {
+            return std::make_unique<Caller>(
+                "frmBEDFORM", std::vector<std::string>{"lblZcoord", "lblLayer", "lblInterface", "lblLoad1"});
+        });
+        screens.add("frmPeriod", [] {
+            return std::make_unique<Caller>("frmPeriod", std::vector<std::string>{"lblPeriod3"});
+        });
+        addTableForms(program);
+        screens.load("frmBEDFORM");
+        store.CurLayDS = 1;
+        store.NewFile = 1;
+    }
+    ~TableFormTest() override { setDispatchDialogs(nullptr); }
+
+    LayeredSet& set() { return store.layered[1]; }
+
+    /// Opens a table as its menu does and leaves it in front, active.
+    Form& open(int kind, const std::string& form, int lines, int cols) {
+        store.TableKind = kind;
+        store.CurGroup = 0;
+        store.CurTopRow = 1;
+        (form == "frmSpread1" ? store.MainLines : store.TblLines) = lines;
+        if (form == "frmSpread1") {
+            store.MainCols = cols;
+        } else {
+            store.GridCols = static_cast<Integer>(cols);
+        }
+        screens.load(form);
+        return front(form);
+    }
+    Form& front(const std::string& form) {
+        Form* loaded = screens.loaded(form);
+        if (!loaded) throw std::logic_error(form + " is not open");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(loaded));
+        return *loaded;
+    }
+    static FlexGrid& grid(Form& form) { return form.control<FlexGrid>("GridSpreadsheet"); }
+
+    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    static void type(const char* text) {
+        for (const char* letter = text; *letter; ++letter)
+            QTest::keyClick(QApplication::focusWidget(), *letter);
+    }
+    /// Types an entry and ends it with Enter.
+    static void enter(const char* text) {
+        type(text);
+        key(Qt::Key_Return);
+    }
+    static void click(FlexGrid& grid, int row, int col) {
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.cellRect(row, col).center());
+    }
+    static void doubleClick(FlexGrid& grid, int row, int col) {
+        click(grid, row, col);
+        QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, grid.cellRect(row, col).center());
+    }
+    /// The access key of OK; the button clicks a moment after its key.
+    void pressOK(const std::string& form) {
+        key(Qt::Key_O, Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !screens.loaded(form); })) << form << " is still open";
+    }
+    static std::string at(FlexGrid& grid) {
+        return std::to_string(grid.Row()) + "," + std::to_string(grid.Col());
+    }
+    static std::string column(FlexGrid& grid, int col) {
+        std::string texts;
+        for (int row = 1; row < grid.Rows(); ++row) texts += grid.Text(row, col) + "|";
+        return texts;
+    }
+    std::string word(const std::string& form, const std::string& label) {
+        return screens.loaded(form)->control<StatusLabel>(label).caption();
+    }
+
+    Store store;
+    ScriptedDialogs dialogs;
+    RecordingPrinter printer;
+    QuietDesktop desktop{"/"};
+    Screens screens{dialogs};
+    Program program{store, screens, dialogs, printer, desktop};
+};
+
+TEST_F(TableFormTest, DepthsAreTypedFromTheKeyboardAlone) {
+    Form& form = open(103, "frmspreadb", 3, 2);
+    EXPECT_EQ(form.caption(), "Z Coordinates of Response Points for Data Set No. 1");
+    EXPECT_EQ(form.control<Label>("lblUnit").caption(), "Unit     in.");
+    EXPECT_EQ(grid(form).Text(0, 0) + grid(form).Text(0, 1) + grid(form).Text(2, 0), "Point No.ZC2");
+    EXPECT_EQ(form.control<Label>("lblDelIns").caption(),
+              "Use <Ctrl>-<Del> to delete a line, <Ctrl>-<Ins> to insert a line, and <Del> to clear a cell.");
+    for (const char* depth : {"0", "4.0001", "1.2E1"}) enter(depth);
+    pressOK("frmspreadb");
+    EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
+    EXPECT_EQ(word("frmBEDFORM", "lblZcoord"), "done");
+    EXPECT_EQ(set().NZ, 3);
+    EXPECT_EQ(set().ZC[2], Variant(4.0001));
+    EXPECT_EQ(set().ZC[3], Variant(12));
+}
+
+TEST_F(TableFormTest, TheTextBoxLiesOverTheCellAndTakesTheKeys) {
+    set().ZC[2] = 12;
+    Form& form = open(103, "frmspreadb", 4, 2);
+    FlexGrid& table = grid(form);
+    CellBox& box = form.control<CellBox>("TxtCell");
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &table);
+
+    key(Qt::Key_Down);
+    type("7");
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_EQ(box.geometry(), table.cellRect(2, 1));
+    EXPECT_EQ(QApplication::focusWidget(), &box);
+    type("5");
+    key(Qt::Key_Home);
+    type("-");
+    EXPECT_EQ(box.textValue(), "-75");
+    EXPECT_EQ(table.Text(2, 1), " 12");
+    key(Qt::Key_PageDown);  // is the box's, not the grid's
+    EXPECT_EQ(at(table), "2,1");
+
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(QApplication::focusWidget(), &table);
+    EXPECT_EQ(table.Text(2, 1), " 12");
+    key(Qt::Key_Escape);  // no auxiliary table here, and nothing else
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(screens.loaded("frmspreadb"), &form);
+
+    key(Qt::Key_Space);
+    EXPECT_EQ(box.textValue(), " 12");
+    EXPECT_EQ(box.cursorPosition(), 3);
+    type("5");
+    key(Qt::Key_Up);
+    EXPECT_EQ(column(table, 1) + at(table), " 0| 125| 0| 0|1,1");
+    key(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_TRUE(box.isVisible());
+    key(Qt::Key_Up, Qt::KeypadModifier);
+    EXPECT_EQ(at(table), "1,1");
+    doubleClick(table, 3, 1);
+    EXPECT_FALSE(box.isVisible()) << "a double click opens nothing here";
+    key(Qt::Key_7, Qt::KeypadModifier);
+    EXPECT_EQ(box.textValue(), "7");
+}
+
+TEST_F(TableFormTest, ASelectionIsEditedWhereItBeganAndLeftWhereItEnds) {
+    FlexGrid& table = grid(open(103, "frmspreadb", 6, 2));
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(at(table) + " " + std::to_string(table.RowSel()), "1,1 3");
+    enter("5");
+    EXPECT_EQ(column(table, 1) + at(table), "5| 0| 0| 0| 0| 0|4,1");
+    EXPECT_EQ(table.RowSel(), 4);
+}
+
+TEST_F(TableFormTest, ClicksCommitIntoTheCellThatWasEdited) {
+    Form& form = open(104, "frmSpread2", 6, 3);
+    FlexGrid& table = grid(form);
+    type("8");
+    click(table, 3, 2);
+    EXPECT_EQ(column(table, 1), "8| 0| 0| 0| 0|XXXXXXXXX|");
+    EXPECT_EQ(at(table), "3,2");
+    EXPECT_EQ(QApplication::focusWidget(), &table);
+    type(".4");
+    QTest::mouseClick(table.verticalHeader()->viewport(), Qt::LeftButton, {},
+                      {5, table.cellRect(5, 1).center().y()});
+    EXPECT_EQ(table.Text(3, 2) + " " + at(table), ".4 5,2");
+    type("2");
+    key(Qt::Key_Tab);
+    EXPECT_TRUE(form.control<CellBox>("TxtCell").isVisible());
+    QTest::mouseClick(&form.control<Button>("BtnRun"), Qt::LeftButton);
+    EXPECT_EQ(set().LAYER[5].PR.text(), "2");
+    EXPECT_EQ(set().LAYER[1].TH.text(), "8");
+    EXPECT_EQ(set().LAYER[6].TH, Variant(0));
+    EXPECT_EQ(word("frmBEDFORM", "lblLayer"), "done");
+}
+
+TEST_F(TableFormTest, LineKeysAlsoFromTheNumberPadAndNeverToTheClipboard) {
+    for (int line = 1; line <= 3; ++line) set().ZC[line] = line;
+    QApplication::clipboard()->setText("kept");
+    FlexGrid& table = grid(open(103, "frmspreadb", 3, 2));
+    key(Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(column(table, 1) + column(table, 0), " 0| 1| 2| 3|1|2|3|4|");
+    key(Qt::Key_Insert, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(table.Rows(), 6);
+    key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(at(table), "5,1");
+    key(Qt::Key_Delete, Qt::ControlModifier | Qt::KeypadModifier);
+    EXPECT_EQ(column(table, 1) + at(table), " 0| 0| 1| 2|4,1");
+    key(Qt::Key_Delete);
+    key(Qt::Key_Up);
+    key(Qt::Key_Delete, Qt::KeypadModifier);
+    for (auto other : {Qt::ShiftModifier, Qt::AltModifier}) {
+        key(Qt::Key_Delete, other);
+        key(Qt::Key_Insert, other);
+    }
+    key(Qt::Key_Insert);
+    EXPECT_EQ(column(table, 1) + at(table), " 0| 0|||3,1");
+    EXPECT_EQ(QApplication::clipboard()->text(), "kept");
+}
+
+TEST_F(TableFormTest, InterfacesKeepTheirLines) {
+    Form& form = open(105, "frmspreadb", 1, 2);
+    EXPECT_EQ(form.control<Label>("lblDelIns").caption(), "");
+    key(Qt::Key_Insert, Qt::ControlModifier);
+    key(Qt::Key_Delete, Qt::ControlModifier);
+    enter("1");
+    EXPECT_EQ(column(grid(form), 1), "1|");
+    pressOK("frmspreadb");
+    EXPECT_EQ(set().INTF[1], 1);
+    EXPECT_EQ(word("frmBEDFORM", "lblInterface"), "done");
+}
+
+TEST_F(TableFormTest, EnterPassesTheCrossedOutCellAndTurnsThePage) {
+    Form& form = open(104, "frmSpread2", 9, 3);
+    FlexGrid& table = grid(form);
+    for (int entry = 0; entry < 10; ++entry) enter("1");
+    EXPECT_EQ(at(table), "6,1");
+    EXPECT_EQ(table.TopRow(), 4) << "the last page of ten rows";
+    for (int entry = 0; entry < 6; ++entry) enter("2");
+    EXPECT_EQ(at(table), "9,2");
+    enter("3");
+    EXPECT_EQ(table.Text(9, 1) + at(table), "XXXXXXXXX9,1");
+}
+
+TEST_F(TableFormTest, APageOfTwentyRows) {
+    store.GridRows = 61;
+    Form& form = open(107, "frmSpread1", 60, 7);
+    form.resize(form.width(), 1100);
+    form.findChild<QSplitter*>()->setSizes({900, 100});
+    FlexGrid& table = grid(form);
+    ASSERT_GT(table.verticalScrollBar()->pageStep(), 21);
+    for (int row = 0; row < 20; ++row) {
+        type("1");
+        key(Qt::Key_Down);
+    }
+    EXPECT_EQ(at(table), "21,1");
+    EXPECT_EQ(table.TopRow(), 21);
+}
+
+TEST_F(TableFormTest, TheTextBoxFollowsItsCellUntilItIsOutOfSight) {
+    Form& form = open(103, "frmspreadb", 60, 2);
+    FlexGrid& table = grid(form);
+    CellBox& box = form.control<CellBox>("TxtCell");
+    click(table, 5, 1);
+    type("9");
+    table.verticalScrollBar()->setValue(2);
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_EQ(box.geometry(), table.cellRect(5, 1));
+    table.setColumnWidth(0, 160);
+    EXPECT_EQ(box.geometry(), table.cellRect(5, 1));
+    EXPECT_EQ(box.width(), 159);
+    table.setColumnWidth(0, 100);
+    table.verticalScrollBar()->setValue(30);
+    EXPECT_FALSE(box.isVisible());
+    EXPECT_EQ(table.Text(5, 1), "9");
+    type("7");  // the active cell comes back into view to be edited
+    EXPECT_TRUE(table.viewport()->rect().contains(box.geometry()));
+}
+
+TEST_F(TableFormTest, ALoadGroupLeadsToItsPointsAndBack) {
+    set().LOADL[1].NR = set().LOADL[2].NR = "";
+    Form& form = open(107, "frmSpread1", 2, 7);
+    EXPECT_EQ(form.control<Label>("lblDouble").caption(),
+              "Double click anywhere on a line to get auxiliary form for NR or NPT.");
+    EXPECT_EQ(grid(form).Text(1, 6), "");
+    for (const char* entry : {"0", "4.5", "80", "0", "0", "2"}) enter(entry);
+    Form& points = front("frmspreadb");
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    EXPECT_EQ(points.caption(),
+              "Radial Coordinates of Response Points for Load Group No. 1 of Data Set No. 1");
+    enter("0");
+    enter("6.75");
+    pressOK("frmspreadb");
+    EXPECT_EQ(word("frmBEDFORM", "lblLoad1"), "done");
+
+    Form& back = front("frmSpread1");
+    EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
+    EXPECT_EQ(at(grid(back)), "2,1");
+    EXPECT_EQ(set().RC[1][2].text(), "6.75");
+    for (const char* entry : {"1", "4", "90", "13.5", "0"}) enter(entry);
+    dialogs.expectBox("An entry is required to fill the blank");
+    key(Qt::Key_Escape);
+    dialogs.expectBox("An entry is required to fill the blank");
+    QTest::mouseClick(&back.control<Button>("BtnRun"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), &grid(back));
+    click(grid(back), 2, 6);
+    type("0");
+    dialogs.expectBox("NR or NPT cannot be 0");
+    doubleClick(grid(back), 2, 3);
+    EXPECT_EQ(back.control<CellBox>("TxtCell").geometry(), grid(back).cellRect(2, 6));
+    key(Qt::Key_Backspace);
+    type("1");
+    key(Qt::Key_Escape);
+    click(grid(back), 2, 6);
+    type("1");
+    const QPoint label(5, grid(back).cellRect(2, 1).center().y());
+    QTest::mouseDClick(grid(back).verticalHeader()->viewport(), Qt::LeftButton, {}, label);
+    EXPECT_EQ(grid(front("frmspreadb")).Cols(), 3);
+    type("3");
+    pressOK("frmspreadb");
+    EXPECT_EQ(set().PT[2][1].XPT.text(), "3") << "OK commits the open cell";
+    EXPECT_EQ(at(grid(front("frmSpread1"))), "1,1") << "behind the last line comes the first";
+    pressOK("frmSpread1");
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    EXPECT_EQ(set().LOADL[2].YW, Variant(13.5));
+}
+
+TEST_F(TableFormTest, ASecondTableClosesTheFirstAndTheFrameStoresNothing) {
+    open(103, "frmspreadb", 2, 2);
+    type("5");
+    Form& form = open(104, "frmSpread2", 2, 3);
+    EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
+    enter("6");
+    open(104, "frmSpread2", 3, 3);
+    EXPECT_NE(screens.loaded("frmSpread2"), &form);
+    EXPECT_EQ(grid(front("frmSpread2")).Rows(), 4);
+    enter("6");
+    front("frmSpread2").close();
+    EXPECT_EQ(screens.loaded("frmSpread2"), nullptr);
+    EXPECT_EQ(set().ZC[1], Variant(0));
+    EXPECT_EQ(set().LAYER[1].TH, Variant(0));
+    EXPECT_EQ(set().NL, 0);
+    EXPECT_EQ(word("frmBEDFORM", "lblLayer"), "input");
+}
+
+TEST_F(TableFormTest, OtherScreensMaySelectWhatTheyLike) {
+    screens.load("frmPeriod");
+    store.CurPeriod = 3;
+    open(106, "frmspreadb", 1, 2);
+    type("1.234E5");
+    store.CurLayDS = 4;
+    store.CurPeriod = 7;
+    store.TableKind = 102;
+    pressOK("frmspreadb");
+    EXPECT_EQ(set().EMOD[3][1], Variant(123400));
+    EXPECT_EQ(word("frmPeriod", "lblPeriod3"), "done");
+}
+
+TEST_F(TableFormTest, TheHelpTextIsPrintedAsItStands) {
+    Form& form = open(105, "frmspreadb", 2, 2);
+    QTest::mouseClick(&form.control<Button>("cmdPrint"), Qt::LeftButton);
+    ASSERT_FALSE(printer.jobs.empty());
+    EXPECT_EQ(printer.jobs.front().size, 9);
+    const std::string& text = form.control<HelpBox>("Text1").textValue();
+    EXPECT_NE(text.find("0 for a frictionless interface.\r\n"), std::string::npos);
+    EXPECT_EQ(text.find("@include"), std::string::npos);
+}
+
+TEST_F(TableFormTest, FocusGoesRoundEverythingAndEachHasAName) {
+    Form& form = open(103, "frmspreadb", 2, 2);
+    std::string round;
+    for (int i = 0; i < 5; ++i) {
+        round += QApplication::focusWidget()->objectName().toStdString() + " ";
+        key(Qt::Key_Tab);
+    }
+    EXPECT_EQ(round, "GridSpreadsheet BtnRun cmdPrint Text1 GridSpreadsheet ");
+    EXPECT_EQ(grid(form).accessibleName(), form.windowTitle());
+    grid(form).setFocus();
+    type("1");
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "ZC, Point No. 1");
+}
+
+}  // namespace

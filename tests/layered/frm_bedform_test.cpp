@@ -1,0 +1,437 @@
+// The main menu of layered input: menus, data sets, reading and saving.
+#include <gmock/gmock.h>
+
+#include "layered/layered_deck.h"
+#include "layered/layered_rules.h"
+#include "support/layered_screens.h"
+#include "support/layered_stores.h"
+
+namespace {
+
+const char* const question = "You have not save the file.  Do you want to save the file?";
+const char* const noThickness = "You forgot to enter the layer thickness by clicking the Layer menu.";
+
+std::string saved(const std::string& name) { return "File with a filename of " + name + " has been saved"; }
+
+class Bedform : public LayeredScreens {
+  protected:
+    Bedform() { menu = screens.load("frmBEDFORM"); }
+
+    StatusLabel& label(const std::string& name) { return menu->control<StatusLabel>(name); }
+    std::string caption(const std::string& name) { return menu->control<Label>(name).caption(); }
+    bool isOpen() const { return screens.loaded("frmBEDFORM") != nullptr; }
+
+    /// A new file with what a save asks for.
+    void newRoad() {
+        choose(*menu, "mnuNew");
+        store.layered[1] = threeLayerStore()->layered[1];
+    }
+    /// A deck on disk, of that many sets.
+    void writeDeck(const std::string& path, Integer sets = 1, const std::string& title = "Three layers") {
+        auto deck = threeLayerStore();
+        deck->layered[1].TITLE = title;
+        deck->NPROB = sets;
+        for (int n = 2; n <= sets; ++n) deck->layered[n] = deck->layered[1];
+        saveLayeredDeck(*deck, path);
+    }
+    std::string titleInDeck(const std::string& path) {
+        Store read;
+        readLayeredDeck(path, read);
+        return read.layered[1].TITLE;
+    }
+    void old(std::optional<std::string> path) {
+        dialogs.expectFile(path ? std::optional(FileAnswer{*path, 1}) : std::nullopt);
+        choose(*menu, "mnuOpen");
+    }
+    void saveAs(std::optional<std::string> path) {
+        dialogs.expectFile(path ? std::optional(FileAnswer{*path, 1}) : std::nullopt);
+        click(*menu, "cmdSaveAs");
+    }
+    Form* menu;
+    LayeredSet& set = store.layered[1];
+};
+
+TEST_F(Bedform, StartsWithTheNameOfTheMainScreenAndFirstDataSet) {
+    EXPECT_EQ(store.CurrentFile, "road.DAT");
+    EXPECT_EQ(store.CurLayDS, 1);
+    EXPECT_TRUE(menu->control<OptionButton>("optDataSet1").value());
+    EXPECT_EQ(caption("lblFile"), "input");
+    EXPECT_EQ(label("lblLoad1").toolTip(),
+              "Load information including wheel spacing, contact pressure, "
+              "contact radius, and response points");
+    click(*menu, "cmdPrint");
+    EXPECT_EQ(printer.jobs.at(0).size, 10);
+}
+
+struct MenuCase {
+    const char *menu, *label;
+    std::function<void(LayeredSet&)> refused;  ///< empty: always opens
+    const char* refusal;
+    std::function<void(LayeredSet&)> wanted;
+    const char* form;
+    int TableKind, cols, lines;  ///< shared selectors then; 0: not looked at
+};
+
+const MenuCase menuCases[] = {
+    {"mnuGeneral", "lblGeneral", {}, "", [](LayeredSet&) {}, "frmGeneral1", 102, 0, 0},
+    {"mnuZcoord", "lblZcoord", [](LayeredSet& s) { s.NDAMA = 1; },
+     "You don't have to click this menu because NZ = 0 or NDAMA=1 or 2.",
+     [](LayeredSet& s) { s.NDAMA = -1, s.NZ = 4; }, "frmspreadb", 103, 2, 4},
+    {"mnuLayer", "lblLayer", [](LayeredSet& s) { s.NL = 0; }, "NL in the 'General' menu is 0",
+     [](LayeredSet& s) { s.MATL = 3; }, "frmSpread2", 104, 3, 3},
+    {"mnuLayer", "lblLayer", {}, "", [](LayeredSet& s) { s.MATL = 4; }, "frmSpread2", 104, 4, 3},
+    {"mnuInterface", "lblInterface", [](LayeredSet&) {},
+     "You don't have to click this menu because NBOND = 1", [](LayeredSet& s) { s.NBOND = 2; }, "frmspreadb",
+     105, 2, 2},
+    {"mnuModuli", "lblModuli", [](LayeredSet& s) { s.NL = 0; }, "NL = 0 in the 'General' menu.",
+     [](LayeredSet&) {}, "frmPeriod", 106, 2, 3},
+    {"mnuNonlinear", "lblNonlinear", [](LayeredSet& s) { s.MATL = 3; },
+     "You don't have to click this menu because there are no nonlinear layers",
+     [](LayeredSet& s) { s.MATL = 2; }, "frmNonlin", 0, 0, 0},
+    {"mnuViscoelastic", "lblViscoelastic", [](LayeredSet& s) { s.MATL = 2; },
+     "You don't have to click this menu because there are no viscoelastic layers",
+     [](LayeredSet& s) { s.MATL = 3; }, "frmVisco", 0, 0, 0},
+    {"mnuDamage", "lblDamage", [](LayeredSet&) {}, "You don't have to click this menu because NDAMA = 0.",
+     [](LayeredSet& s) { s.NDAMA = 2; }, "frmDamage1", 0, 0, 0},
+};
+
+TEST_F(Bedform, MenusAndTheirWordsRefuseOrOpen) {
+    for (const MenuCase& c : menuCases) {
+        for (const char* control : {c.menu, c.label}) {
+            SCOPED_TRACE(control);
+            newRoad();
+            if (c.refused) {
+                c.refused(set);
+                dialogs.expectBox(c.refusal);
+                click(*menu, control);
+                EXPECT_TRUE(dialogs.finished());
+                EXPECT_EQ(screens.loaded(c.form), nullptr);
+            }
+            newRoad();
+            c.wanted(set);
+            click(*menu, control);
+            EXPECT_NE(screens.loaded(c.form), nullptr);
+            if (c.TableKind) {
+                EXPECT_EQ(store.TableKind, c.TableKind);
+            }
+            if (c.cols) {
+                EXPECT_EQ(store.GridCols, c.cols);
+            }
+            if (c.lines) {
+                EXPECT_EQ(store.TblLines, c.lines);
+            }
+            screens.unload(c.form);
+        }
+    }
+}
+
+TEST_F(Bedform, TheLoadTableStartsAtItsFirstLine) {
+    newRoad();
+    set.NLG = 5;
+    store.CurGroup = 3;
+    store.CurTopRow = 20;
+    click(*menu, "lblLoad1");
+    EXPECT_NE(screens.loaded("frmSpread1"), nullptr);
+    EXPECT_EQ(store.TableKind, 107);
+    EXPECT_EQ(store.MainCols, 7);
+    EXPECT_EQ(store.MainLines, 5);
+    EXPECT_EQ(store.CurTopRow, 1);
+    EXPECT_EQ(store.CurGroup, 0);
+}
+
+TEST_F(Bedform, WithoutAFileEveryDataMenuRefuses) {
+    for (const MenuCase& c : menuCases) {
+        dialogs.expectBox("No data file has been loaded.");
+        click(*menu, c.menu);
+        EXPECT_TRUE(dialogs.finished()) << c.menu;
+    }
+    click(*menu, "mnuMohr");
+    EXPECT_NE(screens.loaded("frmMohr"), nullptr);
+}
+
+TEST_F(Bedform, ACountBeyondEveryTableIsTold) {
+    newRoad();
+    set.NZ = 1e6F;
+    dialogs.expectBox("Overflow");
+    click(*menu, "mnuZcoord");
+    EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
+}
+
+TEST_F(Bedform, NewSetsDefaultsAndLeavesButtonsAndDoneWords) {
+    click(*menu, "optDataSet2");
+    screens.done("frmBEDFORM", "lblLayer");
+    screens.done("frmBEDFORM", "lblDamage");
+    store.GeneralVisits = 4;
+    choose(*menu, "mnuNew");
+    EXPECT_EQ(store.CurrentFile, "UNTITLED.DAT");
+    EXPECT_EQ(caption("lblFile"), "Untitled");
+    EXPECT_EQ(caption("lblLayer"), "done");
+    EXPECT_EQ(caption("lblDamage"), "default");
+    EXPECT_EQ(caption("lblZcoord"), "default");
+    EXPECT_EQ(caption("Label2"), "Yes");
+    EXPECT_TRUE(menu->control<OptionButton>("optDataSet2").value());
+    EXPECT_EQ(store.CurLayDS, 1);
+    EXPECT_EQ(store.NPROB, 1);
+    EXPECT_EQ(store.NewFile, 1);
+    EXPECT_EQ(store.GeneralVisits, 0);
+    EXPECT_EQ(store.layered[5].ICL, 80);
+}
+
+TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
+    newRoad();
+    click(*menu, "optDataSet3");
+    EXPECT_EQ(store.NPROB, 3);
+    EXPECT_EQ(store.CurLayDS, 3);
+    EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8));
+    EXPECT_EQ(store.layered[2].TITLE, "") << "skipped, and in the deck all the same";
+    EXPECT_EQ(caption("Label2"), "No");
+    EXPECT_EQ(caption("Label3"), "Yes");
+    EXPECT_EQ(label("Label3").foreColor(), StatusLabel::red);
+
+    set.LAYER[2].TH = 9;
+    store.layered[3].NDAMA = 2;
+    click(*menu, "optDataSet1");
+    EXPECT_EQ(caption("lblDamage"), "default");
+    click(*menu, "optDataSet3");
+    EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8)) << "not copied again";
+    EXPECT_EQ(caption("lblDamage"), "input");
+
+    newRoad();
+    click(*menu, "optDataSet3");
+    EXPECT_EQ(store.layered[3].TITLE, "Three layers") << "another new file";
+}
+
+TEST_F(Bedform, ADataSetThatAnEarlierFileMadeIsNotCopiedAgain) {
+    writeDeck(directory.path() + "one.DAT", 1, "From disk");
+    newRoad();
+    click(*menu, "optDataSet2");
+    old(directory.path() + "one.DAT");
+    EXPECT_EQ(store.CurLayDS, 2) << "reading leaves the choice of data set";
+    click(*menu, "optDataSet2");  // selected already, and a click all the same
+    EXPECT_EQ(store.NPROB, 2);
+    EXPECT_EQ(store.layered[2].TITLE, "Three layers");
+}
+
+TEST_F(Bedform, AfterACheckAClickLeadsBackToTheDataSet) {
+    choose(*menu, "mnuNew");
+    click(*menu, "optDataSet2");
+    dialogs.expectBox(noThickness);
+    click(*menu, "cmdSave");
+    EXPECT_EQ(store.CurLayDS, 1);
+    click(*menu, "optDataSet2");
+    EXPECT_EQ(store.CurLayDS, 2);
+}
+
+TEST_F(Bedform, OldReadsADeckAndTellsTheMainScreen) {
+    const TemporaryDirectory elsewhere;
+    writeDeck(elsewhere.path() + "Road.dat", 3);
+    newRoad();
+    screens.done("frmBEDFORM", "lblZcoord");
+    old(elsewhere.path() + "Road.dat");
+    EXPECT_EQ(dialogs.lastFileQuestion.name, directory.path() + "UNTITLED.DAT");
+    EXPECT_EQ(dialogs.lastFileQuestion.filter, "Data Files (*.DAT)|*.DAT|");
+    EXPECT_EQ(caption("lblFile"), "Road");
+    EXPECT_EQ(caption("Label3"), "Yes");
+    EXPECT_EQ(caption("lblZcoord"), "input");
+    EXPECT_EQ(mainBox("cmbDataPath"), elsewhere.path());
+    EXPECT_EQ(mainBox("cmbFileName"), "Road.dat");
+    EXPECT_EQ(store.NewFile, 0);
+    EXPECT_EQ(store.DataLoaded, 1);
+    EXPECT_EQ(store.CurrentFile, "UNTITLED.DAT") << "the next dialog proposes the name from before";
+
+    writeDeck(elsewhere.path() + "one.dat");
+    old(elsewhere.path() + "one.dat");
+    EXPECT_EQ(caption("Label3"), "Yes") << "of the deck before: kept";
+}
+
+TEST_F(Bedform, ACancelledOldReadsTheFileThatItHas) {
+    writeDeck(directory.path() + "road.dat", 1, "First");
+    old(directory.path() + "road.dat");
+    writeDeck(directory.path() + "road.dat", 1, "Second");
+    old(std::nullopt);
+    EXPECT_EQ(set.TITLE, "Second");
+
+    choose(*menu, "mnuNew");
+    old(std::nullopt);  // UNTITLED.DAT of the data directory, which is not there
+    EXPECT_EQ(store.NewFile, 0);
+    EXPECT_EQ(store.DataLoaded, 1);
+    EXPECT_EQ(caption("lblFile"), "UNTITLED");
+    EXPECT_EQ(mainBox("cmbDataPath"), directory.path());
+    EXPECT_EQ(mainBox("cmbFileName"), "UNTITLED.DAT");
+}
+
+TEST_F(Bedform, AFreshMenuWhoseOldIsCancelledKeepsTheDataDirectory) {
+    old(std::nullopt);
+    EXPECT_EQ(store.cmbDirectory, directory.path());
+    EXPECT_EQ(caption("lblFile"), "");
+    EXPECT_EQ(store.DataLoaded, 1);
+}
+
+TEST_F(Bedform, OldNeedsAFullName) {
+    newRoad();
+    old("road.dat");
+    EXPECT_EQ(store.NewFile, 1);
+    EXPECT_EQ(caption("lblFile"), "Untitled");
+}
+
+TEST_F(Bedform, AFileThatIsNoLayeredDeckUnloadsAndABrokenOneStaysAsFarAsRead) {
+    writeDeck(directory.path() + "road.dat");
+    std::string deck = directory.read("road.dat");
+    std::string wrong = deck;
+    wrong.replace(wrong.find("(9)"), 3, "(8)");
+    directory.write("wrong.dat", wrong);
+    directory.write("broken.dat", deck.substr(0, deck.find("(11)")));
+    newRoad();
+    dialogs.expectBox("Input file is wrong.  Please click File & Old again and select a different file.");
+    old(directory.path() + "wrong.dat");
+    EXPECT_EQ(store.DataLoaded, 0);
+    EXPECT_EQ(caption("lblFile"), "Untitled");
+
+    choose(*menu, "mnuNew");
+    screens.done("frmBEDFORM", "lblZcoord");
+    old(directory.path() + "broken.dat");
+    EXPECT_EQ(store.DataLoaded, 1);
+    EXPECT_EQ(caption("lblFile"), "broken");
+    EXPECT_EQ(caption("lblZcoord"), "done") << "the words are left alone";
+    EXPECT_EQ(set.TITLE, "Three layers");
+}
+
+TEST_F(Bedform, SaveWritesANewFileUnderItsBareNameInTheDataDirectory) {
+    newRoad();
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    EXPECT_EQ(titleInDeck(directory.path() + "UNTITLED.DAT"), "Three layers");
+    EXPECT_EQ(mainBox("cmbFileName"), "UNTITLED.DAT");
+
+    const TemporaryDirectory elsewhere;
+    main->control<ComboBox>("cmbDataPath").setTextValue(elsewhere.path());
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    EXPECT_EQ(titleInDeck(elsewhere.path() + "UNTITLED.DAT"), "Three layers");
+
+    click(*menu, "cmdExit");  // nobody asks
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(store.DataLoaded, 0);
+}
+
+TEST_F(Bedform, SaveWritesAnOldFileWhereItWasWhateverItsLetterCase) {
+    const TemporaryDirectory elsewhere;
+    writeDeck(elsewhere.path() + "Road.dat");
+    old(elsewhere.path() + "Road.dat");
+    set.TITLE = "Changed";
+    dialogs.expectBox(saved("Road.dat"));
+    click(*menu, "cmdSave");
+    EXPECT_EQ(titleInDeck(elsewhere.path() + "Road.dat"), "Changed");
+    EXPECT_EQ(mainBox("cmbFileName"), "Road.dat");
+}
+
+TEST_F(Bedform, AnyClickOnADataMenuCountsAsAChange) {
+    newRoad();
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    dialogs.expectBox("You don't have to click this menu because NDAMA = 0.");
+    click(*menu, "lblDamage");
+    dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Cancel);
+    click(*menu, "cmdExit");
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(Bedform, AFailedSaveIsToldAndLeavesTheOldDeckWhole) {
+    newRoad();
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    const std::string before = directory.read("UNTITLED.DAT");
+    click(*menu, "mnuGeneral");
+    set.LOADL[1].NR = "";
+    std::string failure;
+    try {
+        saveLayeredDeck(store, directory.path() + "other.DAT");
+    } catch (const RunTimeError& error) {
+        failure = error.what();
+    }
+    ASSERT_NE(failure, "");
+    dialogs.expectBox(failure);
+    click(*menu, "cmdSave");
+    EXPECT_EQ(directory.read("UNTITLED.DAT"), before);
+
+    for (const auto& leave : {std::function<void()>([&] { click(*menu, "cmdExit"); }),
+                              std::function<void()>([&] { menu->close(); })}) {
+        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Yes);
+        dialogs.expectBox(failure);
+        leave();
+        EXPECT_TRUE(isOpen()) << "what could not be saved is not given up";
+    }
+}
+
+TEST_F(Bedform, SaveAsMovesToTheChosenDirectory) {
+    const TemporaryDirectory elsewhere;
+    newRoad();
+    store.DataPaths[1] = directory.path();
+    dialogs.expectBox(saved("tandem.DAT"));
+    saveAs(elsewhere.path() + "tandem");
+    EXPECT_EQ(dialogs.lastFileQuestion.action, FileQuestion::Action::Save);
+    EXPECT_EQ(dialogs.lastFileQuestion.name, "UNTITLED.DAT");
+    EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
+    EXPECT_EQ(titleInDeck(elsewhere.path() + "tandem.DAT"), "Three layers");
+    EXPECT_EQ(caption("lblFile"), "tandem");
+    EXPECT_EQ(store.CurrentFile, "tandem.DAT");
+    EXPECT_EQ(store.cmbDirectory, elsewhere.path());
+    EXPECT_EQ(mainBox("cmbDataPath"), elsewhere.path());
+    EXPECT_EQ(mainBox("cmbFileName"), "tandem.DAT");
+    EXPECT_EQ(main->control<ComboBox>("cmbDataPath").listText(0), elsewhere.path());
+}
+
+TEST_F(Bedform, ACancelledSaveAsSavesUnderThePresentName) {
+    const TemporaryDirectory elsewhere;
+    writeDeck(elsewhere.path() + "road.dat");
+    old(elsewhere.path() + "road.dat");
+    main->control<ComboBox>("cmbDataPath").setTextValue(directory.path());  // the user moved on meanwhile
+    dialogs.expectBox(saved("road.dat"));
+    saveAs(std::nullopt);
+    EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
+    EXPECT_EQ(titleInDeck(directory.path() + "road.dat"), "Three layers");
+    EXPECT_EQ(caption("lblFile"), "road");
+}
+
+TEST_F(Bedform, AFailedSaveAsIsSilentAndTheExitStillAsks) {
+    newRoad();
+    saveAs(directory.path() + "missing/road.DAT");
+    dialogs.expectBox(question, Buttons::YesNoCancel, Answer::No);
+    click(*menu, "cmdExit");
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(Bedform, ExitAndFrameAskTheSame) {
+    const std::function<void()> ways[] = {[&] { click(*menu, "cmdExit"); }, [&] { menu->close(); }};
+    for (const auto& leave : ways) {
+        if (!isOpen()) menu = screens.load("frmBEDFORM");
+        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Yes);
+        dialogs.expectBox(noThickness);  // nothing was opened, so nothing is there
+        leave();
+        EXPECT_TRUE(isOpen());
+
+        newRoad();
+        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Cancel);
+        leave();
+        EXPECT_TRUE(isOpen());
+        EXPECT_EQ(store.DataLoaded, 1);
+
+        set.TITLE = "Given up";
+        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::No);
+        leave();
+        EXPECT_FALSE(isOpen());
+        EXPECT_EQ(store.DataLoaded, 0);
+        EXPECT_NE(titleInDeck(directory.path() + "UNTITLED.DAT"), "Given up");
+
+        menu = screens.load("frmBEDFORM");
+        newRoad();
+        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Yes);
+        dialogs.expectBox(saved("UNTITLED.DAT"));
+        leave();
+        EXPECT_FALSE(isOpen());
+        EXPECT_EQ(titleInDeck(directory.path() + "UNTITLED.DAT"), "Three layers");
+        store.layered[1] = {};
+    }
+}
+
+}  // namespace

@@ -1,0 +1,152 @@
+// The boards of periods and layers.
+#include <gmock/gmock.h>
+
+#include "support/layered_screens.h"
+
+namespace {
+
+/// A caller's form with the label that the board's OK sets.
+class Caller : public Form {
+  public:
+    Caller(const std::string& name, const std::string& label) : Form(name), label_(label, "input", this) {}
+    void Form_Load() override {}
+
+  private:
+    StatusLabel label_;
+};
+
+class Boards : public LayeredScreens {
+  protected:
+    Boards() {
+        store.CurLayDS = 2;
+        store.CurSlabDS = 1;
+        set.NPY = 3;
+        set.NL = 4;
+        set.NLG = 5;
+        set.NOLAY = 2;
+        set.NVL = 1;
+        set.NTYME = 11;
+        set.NOLLAY[1] = {.LAYNO = 4, .ZCNOL = 0, .NCLAY = 0};
+        set.NOLLAY[2] = {.LAYNO = "12", .ZCNOL = 0, .NCLAY = "1"};
+        set.VISLAY[1].LNV = 1;
+        store.slab[1].NPY = 2;
+        store.slab[1].NLG = 7;
+    }
+    Form& board(int TableKind, const std::string& name) {
+        store.TableKind = TableKind;
+        screens.load(name);
+        return *screens.loaded(name);
+    }
+    /// Another screen has used the shared selectors meanwhile.
+    void disturb() {
+        store.TableKind = 1;
+        store.CurLayDS = store.CurSlabDS = 0;
+        store.TblLines = store.GridCols = 0;
+    }
+    LayeredSet& set = store.layered[2];
+};
+
+struct BoardCase {
+    int TableKind;
+    const char *form, *caption;
+    int live;
+    const char* word;
+    int lines;
+    const char *caller, *label;
+};
+
+const BoardCase boardCases[] = {
+    {106, "frmPeriod", "Layer Modulus of each period for Data Set No.  2", 3, "input", 4, "frmCaller",
+     "lblModuli"},
+    {119, "frmPeriod", "Layer Temperature of each period for Data Set No.  2", 3, "default", 1, "frmVisco",
+     "lbltemperature"},
+    {123, "frmPeriod", "Load Repetitions of Each Period for Data Set No.  2", 3, "input", 5, "frmDamage1",
+     "lblVolume"},
+    {225, "frmPeriod", "Load Repetitions of each period for Data Set No.  1", 2, "input", 7, "frmDamage",
+     "lblVolume"},
+    {118, "frmLayer", "Creep Compliances of Each Layer for Data Set No.  2", 1, "input", 11, "frmVisco",
+     "lblCreep"},
+    {112, "frmLayer", "Seasonal Input Parameters of Each Layer for Data Set No.  2", 2, "input", 3,
+     "frmNonlin", "lblSeasonal"},
+};
+
+TEST_F(Boards, ServeTheirKindsByWhatTheyKnewAtTheirLoad) {
+    for (const BoardCase& c : boardCases) {
+        SCOPED_TRACE(c.TableKind);
+        const std::string thing = std::string(c.form).substr(3);
+        const std::string caller = c.TableKind == 106 ? "frmBEDFORM" : c.caller;
+        screens.add(caller, [&] { return std::make_unique<Caller>(caller, c.label); });
+        Form* callerForm = screens.load(caller);
+        Form& form = board(c.TableKind, c.form);
+        EXPECT_EQ(form.caption(), c.caption);
+        for (int n = 1; n <= 12; ++n) {
+            const std::string number = std::to_string(n);
+            EXPECT_EQ(form.control<Label>("lbl" + thing + number).caption(), n <= c.live ? c.word : "") << n;
+            EXPECT_EQ(form.control<Button>("cmd" + thing + number).caption().empty(), n > c.live) << n;
+        }
+        store.CurLayDS = 2;
+        store.CurSlabDS = 1;
+        disturb();
+        click(form, "cmd" + thing + "1");
+        EXPECT_EQ(store.TableKind, c.TableKind);
+        EXPECT_EQ(store.TblLines, c.lines);
+        EXPECT_EQ(c.TableKind == 225 ? store.CurSlabDS : store.CurLayDS, c.TableKind == 225 ? 1 : 2);
+        EXPECT_EQ(thing == "Period" ? store.CurPeriod : store.CurLayer, 1);
+        EXPECT_EQ(store.GridCols, c.TableKind == 112 ? 3 : 2);
+        EXPECT_NE(screens.loaded("frmspreadb"), nullptr);
+        screens.unload("frmspreadb");
+
+        click(form, "cmdOk");
+        EXPECT_EQ(screens.loaded(c.form), nullptr);
+        EXPECT_EQ(callerForm->control<Label>(c.label).caption(), "done");
+        screens.unload(caller);
+        store.CurLayDS = 2;
+        store.CurSlabDS = 1;
+    }
+}
+
+TEST_F(Boards, CaptionsTellPeriodsAndLayers) {
+    set.NPY = 13;  // a refused count may still be in the store
+    Form& periods = board(106, "frmPeriod");
+    EXPECT_EQ(periods.control<Button>("cmdPeriod1").caption(), "Period&1");
+    EXPECT_EQ(periods.control<Button>("cmdPeriod12").caption(), "Perio&d12");
+    Form& layers = board(112, "frmLayer");
+    EXPECT_EQ(layers.control<Button>("cmdLayer1").caption(), "&1  Layer 4");
+    EXPECT_EQ(layers.control<Button>("cmdLayer2").caption(), "&2  Layer 12");
+}
+
+TEST_F(Boards, ALineInsertedInOneTableIsThereInTheNext) {
+    Form& form = board(106, "frmPeriod");
+    set.NL = 5;  // stored by the table of a period
+    click(form, "cmdPeriod2");
+    EXPECT_EQ(store.TblLines, 5);
+}
+
+TEST_F(Boards, ANewVisitForgetsTheWordsAndMayBeForAnotherKind) {
+    board(106, "frmPeriod").control<StatusLabel>("lblPeriod1").done();
+    EXPECT_EQ(board(106, "frmPeriod").control<Label>("lblPeriod1").caption(), "input");
+    EXPECT_EQ(board(119, "frmPeriod").control<Label>("lblPeriod1").caption(), "default");
+}
+
+TEST_F(Boards, SeasonalTablesDependOnTheLayerAndTheFile) {
+    const struct {
+        int layer, NewFile, cols;
+        const char* form;
+    } cases[] = {
+        {1, 1, 3, "frmspreadb"}, {1, 0, 3, "frmspreadb"}, {2, 1, 2, "frmspreadb"}, {2, 0, 4, "frmSpread2"}};
+    Form& form = board(112, "frmLayer");
+    for (const auto& c : cases) {
+        store.NewFile = c.NewFile;
+        click(form, "cmdLayer" + std::to_string(c.layer));
+        EXPECT_EQ(store.GridCols, c.cols) << c.layer << c.NewFile;
+        EXPECT_EQ(store.CurLayer, c.layer);
+        ASSERT_NE(screens.loaded(c.form), nullptr);
+        screens.unload(c.form);
+    }
+    set.NOLLAY[2].NCLAY = "";  // the nonseasonal table was never confirmed
+    dialogs.expectBox("Type mismatch");
+    click(form, "cmdLayer2");
+    EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
+}
+
+}  // namespace
