@@ -102,10 +102,12 @@ void writeViscousEcho(std::ostream& out, const LayeredSet& set, const Viscoelast
         row(
             out, std::string("  Compliances CREEP, per ") + units.stress, 1, times,
             [&](int t) { return set.CREEP[n][t]; }, 4);
-        if (creep.needsSeries()) {
-            writeSeries(out, layer);
-            writeShifts(out, creep, layer);
+        if (!creep.needsSeries()) {
+            line(out, "    The load stays and all temperatures are TEMPREF: the moduli are 1/CREEP.");
+            continue;
         }
+        writeSeries(out, layer);
+        writeShifts(out, creep, layer);
     }
 }
 

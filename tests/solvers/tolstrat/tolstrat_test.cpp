@@ -127,15 +127,22 @@ TEST(Tolstrat, ComesOutTheSameOnAnyNumberOfThreads) {
     const std::string group = deck.substr(deck.find(" 0   (13) LOAD"));
     deck = withCard(deck, " (3) MATL NDAMA NPY NLG", " 1  0  2  5 ");
     for (int i = 0; i < 4; ++i) deck += group;
-    const TemporaryDirectory folder;
-    folder.write("road.DAT", deck);
-    std::vector<std::string> outputs;
-    for (const char* threads : {"1", "2", "7"}) {
-        ASSERT_EQ(run({folder.path() + "road", "--quiet", "--threads", threads}).status, SOLVED);
-        outputs.push_back(folder.read("road.TXT") + folder.read("road.BED"));
+    for (const std::string& each : {deck, example("BED3.DAT"), example("BED6.DAT")}) {
+        const TemporaryDirectory folder;
+        const std::string path = folder.path();
+        folder.write("road.DAT", each);
+        std::vector<std::string> outputs;
+        for (const char* threads : {"1", "2", "7"}) {
+            ASSERT_EQ(run({path + "road", "--quiet", "--threads", threads, "--csv", path + "r.csv",
+                           "--csv-moduli", path + "m.csv"})
+                          .status,
+                      SOLVED);
+            outputs.push_back(folder.read("road.TXT") + folder.read("road.BED") + folder.read("r.csv") +
+                              folder.read("m.csv"));
+        }
+        EXPECT_EQ(outputs[0], outputs[1]);
+        EXPECT_EQ(outputs[0], outputs[2]);
     }
-    EXPECT_EQ(outputs[0], outputs[1]);
-    EXPECT_EQ(outputs[0], outputs[2]);
 }
 
 TEST(Tolstrat, RefusesBadDecksInOneSentence) {
