@@ -1,0 +1,127 @@
+// Stresses, strains and deflections of a layered elastic half-space under circular loads.
+//
+// Start here: this header is all a caller needs. Pure functions, structs in, structs out; no files.
+//
+// The problem. Up to 19 (or more) horizontal, homogeneous, isotropic, linear elastic layers, the last
+// one a half-space; every interface either bonded (displacements and tractions continuous) or frictionless
+// (vertical displacement and pressure continuous, no shear). A wheel presses with uniform vertical
+// pressure on a circle; any number of equal wheels are superposed.
+//
+// Symbols.  a contact radius; q contact pressure; E modulus; nu Poisson's ratio; z depth below the
+// surface; r distance from a wheel's axis; w vertical, u radial displacement.
+//
+// Units. Any consistent set: lengths in one unit, q, E and stresses in one unit.
+//
+// Signs. w is positive downwards, u outwards. Stress and strain tensors are positive in compression, all
+// components alike: every entry, shear too, is minus the usual tension-positive one. So the shear stress
+// srz under the edge of a wheel is positive. Shear strains are tensor components, half the engineering ones.
+//
+// Method. Hankel transform (axis_integrals.h), one small elimination per transform parameter (kernel.h),
+// the half-space of the surface layer taken out in closed form (half_space.h).
+#pragma once
+
+#include <array>
+#include <span>
+#include <vector>
+
+namespace layered_theory {
+
+struct Layer {
+    double thickness;  ///< > 0; that of the last layer is not looked at
+    double modulus;    ///< E > 0
+    double poisson;    ///< -1 < nu <= 0.5
+};
+
+struct Structure {
+    std::vector<Layer> layers;  ///< from the top, the last one a half-space; at least one
+    std::vector<bool> bonded;  ///< one entry an interface, true bonded, false frictionless; empty: all bonded
+};
+
+/// A depth at which results are wanted. At an interface they are those at the bottom of the upper layer
+/// (an interface counts as reached when z agrees with it to 7 digits), unless `layer` (0 for the top one)
+/// names the layer; z must then lie in that layer or on its boundary.
+struct Depth {
+    static constexpr int FIND_LAYER = -1;
+    double z;
+    int layer = FIND_LAYER;
+};
+
+/// How the integrals are evaluated.
+struct Control {
+    /// DEL. Error allowed, relative to the largest component of the same kind at the same place. Anything
+    /// above 0.001 and 0.001 itself are met with four digits to spare; a smaller one is followed downwards.
+    double tolerance = 1e-3;
+    /// ICL. A cycle runs between two zeros of J1(m a), the first one from 0, later ones over several zeros at
+    /// once: every cycle covers at least an eighth of what came before it. More than 100 are never used.
+    int maxCycles = 80;
+};
+
+// ---- One wheel ------------------------------------------------------------------------------------------
+
+struct AxisymmetricResponse {
+    double w, u;                ///< displacements
+    double srr, stt, szz, srz;  ///< stresses: radial, hoop, vertical, shear
+    double err, ett, ezz, erz;  ///< strains, the same
+    bool converged;             ///< false: the cycles ended before the tolerance was met
+};
+
+struct AxisymmetricResult {
+    std::vector<AxisymmetricResponse> responses;  ///< radius by radius: [iRadius * depths.size() + iDepth]
+    int cycles;                                   ///< cycles used; 0 for a half-space of one material
+    bool converged;                               ///< false where any response is not
+};
+
+/// One wheel on the z axis, responses at all `radii` (r >= 0) x `depths`, for several structures.
+///
+/// All structures share the quadrature points and the tables of Bessel functions, which is why periods
+/// with the same points are best solved in one call.
+///
+/// At the edge of the load on the surface (z = 0, r = a to 10 digits) the discontinuous components are the
+/// mean of both sides. The shear stress on the surface is 0.
+///
+/// Accuracy: see README.md; at the default Control the error is below 1e-7 of the largest component at
+/// the place, for moduli 1000:1 either way, nu from -0.9 to 0.5, thicknesses from 0.01 a, r from 0 to 100 a.
+///
+/// @throws std::invalid_argument with a sentence that names the layer, wheel or depth, when a value is
+///         outside the range given in these structs, NaN included.
+std::vector<AxisymmetricResult> solveAxisymmetric(std::span<const Structure> structures, double radius,
+                                                  double pressure, std::span<const double> radii,
+                                                  std::span<const Depth> depths, const Control& control = {});
+
+// ---- Any number of equal wheels
+// ----------------------------------------------------------------------------
+
+struct Position {
+    double x, y;
+};
+
+struct Load {
+    double radius;                 ///< a > 0
+    double pressure;               ///< q, any sign
+    std::vector<Position> wheels;  ///< at least one
+};
+
+struct Tensor {
+    double xx, yy, zz, xy, xz, yz;
+};
+
+struct Response {
+    double w;
+    Tensor stress, strain;
+    std::array<double, 3> principalStress, principalStrain;  ///< s1 >= s2 >= s3
+    bool converged;  ///< false: the cycles ended before the tolerance was met for one of the wheels
+};
+
+struct Result {
+    std::vector<Response> responses;  ///< point by point: [iPoint * depths.size() + iDepth]
+    int cycles;                       ///< as in AxisymmetricResult
+    bool converged;
+};
+
+/// All wheels of `load` together, responses at all `points` x `depths`, for several structures at once.
+/// Same conditions, accuracy and errors as solveAxisymmetric.
+std::vector<Result> solve(std::span<const Structure> structures, const Load& load,
+                          std::span<const Position> points, std::span<const Depth> depths,
+                          const Control& control = {});
+
+}  // namespace layered_theory
