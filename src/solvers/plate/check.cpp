@@ -263,6 +263,18 @@ class Checker {
             for (const auto* list : {&state.gap, &state.reaction})
                 demand(list->empty() || static_cast<int>(list->size()) == nodeCount_, "INPUT",
                        "The data set before has other nodes; INPUT = 1 needs the same slabs.");
+        const std::size_t pairs = pairCount();
+        for (const ContactState& state : p_.previous)
+            demand((state.displacement.empty() ||
+                    static_cast<int>(state.displacement.size()) == 3 * nodeCount_) &&
+                       (state.slip.empty() || state.slip.size() == pairs),
+                   "INPUT", "The data set before has other joints; INPUT = 1 needs the same slabs.");
+    }
+
+    std::size_t pairCount() const {
+        std::size_t pairs = 0;
+        for (const JointLine& line : makeMesh(p_).joints) pairs += line.nodes.size();
+        return pairs;
     }
 
     /// On a foundation that spreads pressure, mirror images act, too: they need one line each, at an edge.

@@ -16,7 +16,7 @@ struct FatigueLaw {
 ///
 /// Without `law` by the criteria of the Portland Cement Association (Packard and
 /// Tayabji, 1985): log10 N = 11.737 - 12.077 SR from 0.55, N = (4.2577 / (SR -
-/// 0.4325))^3.268 from 0.45 to 0.55, unlimited below. At 0.55 the two differ by 0.5 %.
+/// 0.4325))^3.268 from 0.45 to 0.55, unlimited below. At 0.55 the two differ by 0.2 %.
 /// A ratio of 0 or less is never harmful, by either law.
 double allowedRepetitions(double SR, const std::optional<FatigueLaw>& law);
 

@@ -1,5 +1,7 @@
 #include "solvers/plate/element.h"
 
+#include <algorithm>
+
 namespace plate {
 
 // With t = xi xi_i and s = eta eta_i the functions of corner i are
@@ -45,36 +47,26 @@ Vector12 shapeIntegral(double xi0, double xi1, double eta0, double eta1, double 
     return sum * (a * b * (xi1 - xi0) * (eta1 - eta0) / 4);
 }
 
-Quarters::Quarters() {
+Vector12 quarterIntegral(int corner, double a, double b) {
+    const auto [xi, eta] = corners[static_cast<std::size_t>(corner)];
+    return shapeIntegral(std::min(0., xi), std::max(0., xi), std::min(0., eta), std::max(0., eta), a, b);
+}
+
+QuarterProducts::QuarterProducts() {
     for (std::size_t c = 0; c < 4; ++c) {
-        const auto [xi_c, eta_c] = corners[c];
-        mean_[c] = shapeIntegral(std::min(0., xi_c), std::max(0., xi_c), std::min(0., eta_c),
-                                 std::max(0., eta_c), 1, 1);
-        product_[c].setZero();
+        unit_[c].setZero();
         for (const GaussPoint& p : gauss4)
             for (const GaussPoint& q : gauss4) {
-                const Vector12 n = shape((xi_c + p.at) / 2, (eta_c + q.at) / 2, 1, 1);
-                product_[c] += n * n.transpose() * (p.weight * q.weight / 4);
+                const Vector12 n = shape((corners[c][0] + p.at) / 2, (corners[c][1] + q.at) / 2, 1, 1);
+                unit_[c] += n * n.transpose() * (p.weight * q.weight / 4);
             }
     }
 }
 
-namespace {
-/// A function of an element with half sides a, b is that of the unit element times this.
-Vector12 scale(double a, double b) {
-    Vector12 s;
-    s << 1, b, a, 1, b, a, 1, b, a, 1, b, a;
-    return s;
-}
-}  // namespace
-
-Vector12 Quarters::mean(int corner, double a, double b) const {
-    return mean_[static_cast<std::size_t>(corner)].cwiseProduct(scale(a, b)) * (a * b);
-}
-
-Matrix12 Quarters::product(int corner, double a, double b) const {
-    const Vector12 s = scale(a, b);
-    return s.asDiagonal() * product_[static_cast<std::size_t>(corner)] * s.asDiagonal() * (a * b);
+Matrix12 QuarterProducts::operator()(int corner, double a, double b) const {
+    Vector12 scale;
+    scale << 1, b, a, 1, b, a, 1, b, a, 1, b, a;
+    return scale.asDiagonal() * unit_[static_cast<std::size_t>(corner)] * scale.asDiagonal() * (a * b);
 }
 
 }  // namespace plate

@@ -27,17 +27,18 @@ Curvature curvature(double xi, double eta, double a, double b);
 /// Integral of the shape functions over xi0..xi1, eta0..eta1 [length^2 times theirs].
 Vector12 shapeIntegral(double xi0, double xi1, double eta0, double eta1, double a, double b);
 
-/// Integrals over the quarter of the element next to each corner, which is the
-/// element's part of that node's area: of N and of N N^T.
-class Quarters {
+/// Integral of the shape functions over the quarter of the element next to a corner, which is the
+/// element's part of that node's area.
+Vector12 quarterIntegral(int corner, double a, double b);
+
+/// Integral of N N^T over the same quarters. They scale from the element with a = b = 1.
+class QuarterProducts {
   public:
-    Quarters();
-    Vector12 mean(int corner, double a, double b) const;
-    Matrix12 product(int corner, double a, double b) const;
+    QuarterProducts();
+    Matrix12 operator()(int corner, double a, double b) const;
 
   private:
-    std::array<Vector12, 4> mean_;  // of the element with a = b = 1
-    std::array<Matrix12, 4> product_;
+    std::array<Matrix12, 4> unit_;
 };
 
 /// Points and weights of Gauss' rules of 2, 3 and 4 points on -1..1.

@@ -69,7 +69,8 @@ SurfaceKernel surfaceKernel(const Foundation& foundation) {
             spectra->push_back(spectrum(layers, shear, far));
         const Spectrum& s = (*spectra)[size];
         double sum = 0;
-        for (std::size_t i = 0; i < s.m.size(); ++i) sum += s.weighted[i] * layered_theory::bessel(s.m[i] * r).j0;
+        for (std::size_t i = 0; i < s.m.size(); ++i)
+            sum += s.weighted[i] * layered_theory::bessel(s.m[i] * r).j0;
         return sum;
     };
     return kernel;

@@ -1,5 +1,6 @@
-// Liquid foundation (Winkler, 1867): the pressure at each point of a node's area in contact is the
-// modulus there times the deflection, so that the area's stiffness is the integral of N N^T.
+// Liquid foundation (Winkler, 1867): each point of a node's area in contact presses back with the node's
+// modulus k times the deflection there. With Q_i the integral of N N^T over the area A of node i, the
+// nodal loads are k Q_i d - k A gap C_i and sum up to the reaction R = k A (C_i^T d - gap).
 #include <algorithm>
 
 #include "solvers/plate/system.h"
@@ -18,7 +19,13 @@ namespace {
 class LiquidSystem : public System {
   public:
     LiquidSystem(const Structure& structure, const Mesh& mesh, const Vector& modulus)
-        : s_(structure), mesh_(mesh), modulus_(modulus), matrix_(withBars(structure)), base_(values()) {
+        : s_(structure),
+          mesh_(mesh),
+          modulus_(modulus),
+          matrix_(withBars(structure)),
+          bed_(matrix_),
+          base_(values()),
+          rigid_(structure.rigidMotions()) {
         for (const Element& e : mesh.elements) positions_.push_back(positionsOf(e));
     }
 
@@ -35,11 +42,12 @@ class LiquidSystem : public System {
             fresh.factorize(matrix_);
             return sound(fresh, matrix_);
         });
-        if (!factor) return {.supported = false};
+        if (!factor) return lost();
         const Vector rhs = rightHandSide(start, state, f);
         const auto full = matrix_.selfadjointView<Eigen::Lower>();
         Vector d = factor->solve(rhs);
         d += factor->solve(rhs - full * d);
+        balance(f + startLoads(start, state), d);
         Response r = forces(start, state, d);
         const double scale = std::max(f.norm(), rhs.norm());
         r.residual = scale > 0 ? (rhs - full * d).norm() / scale : 0;
@@ -47,18 +55,22 @@ class LiquidSystem : public System {
     }
 
   private:
+    static Response lost() {
+        Response r;
+        r.supported = false;
+        return r;
+    }
+
     using Positions = std::array<int, 144>;
 
     /// The structure's matrix with room for the loose bars.
     static Sparse withBars(const Structure& s) {
-        std::vector<Eigen::Triplet<double>> room;
-        for (const LooseBar& bar : s.looseBars()) {
-            const auto [low, high] = std::minmax(bar.wA, bar.wB);
-            room.emplace_back(high, low, 0);
-        }
-        Sparse extra(s.unknowns(), s.unknowns());
-        extra.setFromTriplets(room.begin(), room.end());
-        Sparse sum = s.stiffness() + extra;
+        std::vector<Eigen::Triplet<double>> bars;
+        for (const LooseBar& bar : s.looseBars())
+            bars.emplace_back(std::max(bar.wA, bar.wB), std::min(bar.wA, bar.wB), 0);
+        Sparse room(s.unknowns(), s.unknowns());
+        room.setFromTriplets(bars.begin(), bars.end());
+        Sparse sum = s.stiffness() + room;
         sum.makeCompressed();
         return sum;
     }
@@ -81,41 +93,69 @@ class LiquidSystem : public System {
         return p;
     }
 
-    double stiffness(Eigen::Index node) const { return FSAF_ * modulus_(node); }
+    bool touches(const State& state, Eigen::Index node) const {
+        return state.contact[static_cast<std::size_t>(node)] != 0;
+    }
+    double modulus(Eigen::Index node) const { return FSAF_ * modulus_(node); }
+    /// Spring of a node's area.
+    double spring(Eigen::Index node) const { return modulus(node) * s_.nodeAreas()(node); }
 
     void assemble(const State& state) {
         if (assembledFSAF_ == FSAF_ && assembled_ == state) return;
         assembled_ = state;
         assembledFSAF_ = FSAF_;
-        values() = base_;
-        double* value = matrix_.valuePtr();
+        double* bed = bed_.valuePtr();
+        std::fill(bed, bed + bed_.nonZeros(), 0.);
         for (std::size_t e = 0; e < mesh_.elements.size(); ++e)
             for (int c = 0; c < 4; ++c) {
                 const Element& element = mesh_.elements[e];
                 const int node = element.nodes[static_cast<std::size_t>(c)];
-                if (!state.contact[static_cast<std::size_t>(node)]) continue;
-                const Matrix12 q = s_.quarters().product(c, element.a, element.b) * stiffness(node);
+                if (!touches(state, node)) continue;
+                const Matrix12 q = products_(c, element.a, element.b) * modulus(node);
                 for (std::size_t i = 0; i < 144; ++i)
-                    if (positions_[e][i] >= 0) value[positions_[e][i]] += q.data()[i];
+                    if (positions_[e][i] >= 0) bed[positions_[e][i]] += q.data()[i];
             }
+        values() = base_ + Eigen::Map<Vector>(bed, bed_.nonZeros());
+        double* value = matrix_.valuePtr();
         for (std::size_t b = 0; b < state.bar.size(); ++b) {
             if (!state.bar[b]) continue;
             const LooseBar& bar = s_.looseBars()[b];
-            const auto [low, high] = std::minmax(bar.wA, bar.wB);
-            value[position(low, low)] += bar.stiffness;
-            value[position(high, high)] += bar.stiffness;
-            value[position(high, low)] -= bar.stiffness;
+            value[position(bar.wA, bar.wA)] += bar.stiffness;
+            value[position(bar.wB, bar.wB)] += bar.stiffness;
+            value[position(std::max(bar.wA, bar.wB), std::min(bar.wA, bar.wB))] -= bar.stiffness;
         }
     }
 
     /// Downward nodal loads that stand for gaps in contact and for lost precompression.
     Vector startLoads(const Start& start, const State& state) const {
-        Vector forces(mesh_.count());
+        Vector forces(modulus_.size());
         for (Eigen::Index n = 0; n < forces.size(); ++n)
-            forces(n) = state.contact[static_cast<std::size_t>(n)]
-                            ? stiffness(n) * s_.nodeAreas()(n) * start.gap(n)
-                            : start.reaction(n);
-        return s_.areas() * forces;
+            forces(n) = touches(state, n) ? spring(n) * start.gap(n) : start.reaction(n);
+        return s_.areas() * forces + unevenness(start, state);
+    }
+
+    /// Pressure and gap of the data set before are not even over a node's area but follow its
+    /// displacements d: (Q_i - A C_i C_i^T) d times k beside the mean. It counts where a node has
+    /// closed (against) or opened (for) since.
+    Vector unevenness(const Start& start, const State& state) const {
+        Vector sum = Vector::Zero(s_.unknowns());
+        if (start.displacement.size() == 0) return sum;
+        Vector k(modulus_.size());
+        for (Eigen::Index n = 0; n < k.size(); ++n)
+            k(n) = modulus(n) * ((start.gap(n) == 0) - touches(state, n));
+        for (const Element& e : mesh_.elements) {
+            const auto at = s_.unknowns(e);
+            Vector12 d = Vector12::Zero(), load = Vector12::Zero();
+            for (std::size_t i = 0; i < 12; ++i)
+                if (at[i] >= 0) d(static_cast<Eigen::Index>(i)) = start.displacement(at[i]);
+            for (int c = 0; c < 4; ++c)
+                if (const double now = k(e.nodes[static_cast<std::size_t>(c)]); now != 0)
+                    load += now * (products_(c, e.a, e.b) * d);
+            for (std::size_t i = 0; i < 12; ++i)
+                if (at[i] >= 0) sum(at[i]) += load(static_cast<Eigen::Index>(i));
+        }
+        const Vector mean = s_.areas().transpose() * start.displacement;
+        return sum - s_.areas() * Vector(k.cwiseProduct(s_.nodeAreas()).cwiseProduct(mean));
     }
 
     Vector rightHandSide(const Start& start, const State& state, const Vector& f) const {
@@ -131,39 +171,42 @@ class LiquidSystem : public System {
         return rhs;
     }
 
+    /// Moves the slabs as rigid bodies until the foundation carries the loads. In exact numbers there is
+    /// nothing to move; rounding in the slabs' much larger stiffness leaves a rest.
+    void balance(const Vector& load, Vector& d) const {
+        const auto bed = bed_.selfadjointView<Eigen::Lower>();
+        const Matrix carried = bed * rigid_;
+        d += rigid_ * (rigid_.transpose() * carried).ldlt().solve(rigid_.transpose() * (load - bed * d));
+    }
+
     Response forces(const Start& start, const State& state, const Vector& d) const {
         Response r;
         r.d = d;
         const Vector mean = s_.areas().transpose() * d;
-        r.reaction = r.opening = Vector::Zero(mesh_.count());
-        for (Eigen::Index n = 0; n < mean.size(); ++n) {
-            const double k = stiffness(n) * s_.nodeAreas()(n);
-            if (state.contact[static_cast<std::size_t>(n)])
-                r.reaction(n) = start.reaction(n) + k * (mean(n) - start.gap(n));
+        r.ground = bed_.selfadjointView<Eigen::Lower>() * d - startLoads(start, state);
+        r.reaction = r.opening = Vector::Zero(mean.size());
+        for (Eigen::Index n = 0; n < mean.size(); ++n)
+            if (touches(state, n))
+                r.reaction(n) = start.reaction(n) + spring(n) * (mean(n) - start.gap(n));
             else
-                r.opening(n) = start.gap(n) - mean(n) - (k > 0 ? start.reaction(n) / k : 0);
-        }
-        r.ground = (matrix_.selfadjointView<Eigen::Lower>() * d).eval() -
-                   (s_.stiffness().selfadjointView<Eigen::Lower>() * d).eval() - startLoads(start, state);
+                r.opening(n) = start.gap(n) - mean(n) - (spring(n) > 0 ? start.reaction(n) / spring(n) : 0);
         r.slip = r.barForce = Vector::Zero(static_cast<Eigen::Index>(state.bar.size()));
         for (std::size_t b = 0; b < state.bar.size(); ++b) {
             const LooseBar& bar = s_.looseBars()[b];
             const auto i = static_cast<Eigen::Index>(b);
             r.slip(i) = start.slip(i) + d(bar.wA) - d(bar.wB);
-            if (!state.bar[b]) continue;
-            r.barForce(i) = bar.stiffness * (r.slip(i) - state.bar[b] * bar.play);
-            const double sprung = bar.stiffness * (d(bar.wA) - d(bar.wB));
-            r.ground(bar.wA) -= sprung;
-            r.ground(bar.wB) += sprung;
+            if (state.bar[b]) r.barForce(i) = bar.stiffness * (r.slip(i) - state.bar[b] * bar.play);
         }
         return r;
     }
 
     const Structure& s_;
     const Mesh& mesh_;
+    QuarterProducts products_;
     Vector modulus_;
-    Sparse matrix_;
-    Vector base_;
+    Sparse matrix_, bed_;  // all, and the foundation's part in the same pattern
+    Vector base_;          // values of the slabs and joints
+    Matrix rigid_;
     std::vector<Positions> positions_;
     double FSAF_ = 1, assembledFSAF_ = 0;
     State assembled_;

@@ -52,7 +52,8 @@ struct Equilibrium {
     double load;         ///< sum of the loads, downward, from the input alone
     double reaction;     ///< sum of the reactions that they add
     double forceError;   ///< difference over the sum of the reactions' magnitudes or the load
-    double momentError;  ///< the same for moments about the axes that symmetry leaves free
+    double momentError;  ///< the same for the work in each rigid motion that symmetry leaves free,
+                         ///< per slabs that joints link, over the motion's largest deflection
 };
 
 struct Case {

@@ -64,9 +64,10 @@ struct Foundation {
 
 /// What a data set leaves behind for one that continues it. Empty vectors are zeros.
 struct ContactState {
-    std::vector<double> gap;       ///< per node: distance to the foundation, 0 where they touch
-    std::vector<double> reaction;  ///< per node: precompression force
-    std::vector<double> slip;      ///< per node pair of the joints in order: w of side a less w of side b
+    std::vector<double> gap;           ///< per node: distance to the foundation, 0 where they touch
+    std::vector<double> reaction;      ///< per node: precompression force
+    std::vector<double> displacement;  ///< w, rx, ry of each node, since the first data set
+    std::vector<double> slip;          ///< per node pair of the joints in order: w of side a less w of side b
 };
 
 struct Problem {

@@ -36,6 +36,12 @@ Vector orZeros(const std::vector<double>& values, Eigen::Index size) {
     return Eigen::Map<const Vector>(values.data(), size);
 }
 
+/// State that period `period` continues from; empty for a fresh start.
+ContactState before(const Problem& problem, std::size_t period) {
+    if (problem.previous.empty()) return {};
+    return problem.previous[std::min(period, problem.previous.size() - 1)];
+}
+
 Start makeStart(const Problem& problem, const Mesh& mesh, const Structure& structure, std::size_t period) {
     const auto bars = static_cast<Eigen::Index>(structure.looseBars().size());
     Start start{Vector::Zero(mesh.count()), Vector::Zero(mesh.count()), Vector::Zero(bars),
@@ -44,12 +50,13 @@ Start makeStart(const Problem& problem, const Mesh& mesh, const Structure& struc
         for (const NodeValue& g : problem.NG) start.gap(g.node - 1) = g.value;
         return start;
     }
-    const ContactState& before = problem.previous[std::min(period, problem.previous.size() - 1)];
-    start.gap = orZeros(before.gap, mesh.count());
-    start.reaction = orZeros(before.reaction, mesh.count());
-    for (Eigen::Index b = 0; b < bars && !before.slip.empty(); ++b) {
+    const ContactState left = before(problem, period);
+    start.gap = orZeros(left.gap, mesh.count());
+    if (!left.displacement.empty()) start.displacement = structure.restrict(left.displacement);
+    start.reaction = orZeros(left.reaction, mesh.count());
+    for (Eigen::Index b = 0; b < bars && !left.slip.empty(); ++b) {
         const LooseBar& bar = structure.looseBars()[static_cast<std::size_t>(b)];
-        const double slip = before.slip[static_cast<std::size_t>(bar.pair)];
+        const double slip = left.slip[static_cast<std::size_t>(bar.pair)];
         start.slip(b) = slip;
         start.barForce(b) = bar.stiffness * std::copysign(std::max(0., std::abs(slip) - bar.play), slip);
     }
@@ -130,49 +137,32 @@ std::vector<JointResult> jointResults(const Mesh& mesh, const Structure& structu
     return results;
 }
 
-/// The unknowns of a rigid motion: w = x or y of the plan.
-Vector rigid(const Mesh& mesh, const Structure& structure, double byX, double byY) {
-    Vector d = Vector::Zero(structure.unknowns());
-    for (int n = 0; n < mesh.count(); ++n) {
-        const Node& node = mesh.nodes[static_cast<std::size_t>(n)];
-        const auto [x, y] = mesh.origin[static_cast<std::size_t>(node.slab)];
-        const std::array<double, 3> values{byX * (node.x + x) + byY * (node.y + y), -byY, byX};
-        for (int c = 0; c < 3; ++c)
-            if (const int i = structure.unknown(n, c); i >= 0) d(i) = values[static_cast<std::size_t>(c)];
-    }
-    return d;
-}
-
 /// Loads and reactions do the same work in every rigid motion that symmetry allows.
-Equilibrium equilibrium(const Problem& problem, const Mesh& mesh, const Structure& structure,
-                        const Start& start, const Response& response, std::size_t group, const Vector& f) {
+Equilibrium equilibrium(const Structure& structure, const Start& start, const Response& response,
+                        std::size_t group, const Vector& f) {
     const Vector reactions = response.reaction - start.reaction;
     Equilibrium e{structure.totalForce(group), reactions.sum(), 0, 0};
     const double scale = std::max(std::abs(e.load), reactions.cwiseAbs().sum());
     if (!(scale > 0)) return e;
     e.forceError = std::abs(e.load - e.reaction) / scale;
-    const auto error = [&](const Vector& motion) {
-        return std::abs(motion.dot(f - response.ground)) / (motion.cwiseAbs().maxCoeff() * scale);
-    };
-    if (problem.NODSY.empty()) e.momentError = error(rigid(mesh, structure, 1, 0));
-    if (problem.NODSX.empty()) e.momentError = std::max(e.momentError, error(rigid(mesh, structure, 0, 1)));
+    const Matrix motions = structure.rigidMotions();
+    const Vector work = motions.transpose() * (f - response.ground);
+    const Vector arms = motions.cwiseAbs().colwise().maxCoeff();
+    e.momentError = work.cwiseAbs().cwiseQuotient(arms).maxCoeff() / scale;
     return e;
 }
 
 std::vector<double> toVector(const Vector& v) { return {v.data(), v.data() + v.size()}; }
 
-ContactState stateAfter(const Problem& problem, const Mesh& mesh, std::size_t period, const Start& start,
-                        const ContactResult& contact, const Vector& all) {
-    ContactState state{toVector(contact.response.opening), toVector(contact.response.reaction), {}};
-    const ContactState* before =
-        problem.previous.empty() ? nullptr : &problem.previous[std::min(period, problem.previous.size() - 1)];
-    for (Eigen::Index n = 0; n < start.gap.size(); ++n)
-        if (contact.state.contact[static_cast<std::size_t>(n)]) state.gap[static_cast<std::size_t>(n)] = 0;
+ContactState stateAfter(const Mesh& mesh, const ContactState& before, const Response& response,
+                        const Vector& all) {
+    ContactState state{toVector(response.opening), toVector(response.reaction), toVector(all), {}};
+    for (std::size_t i = 0; i < before.displacement.size(); ++i)
+        state.displacement[i] += before.displacement[i];
     for (const JointLine& line : mesh.joints)
         for (const JointNode& n : line.nodes) {
             const std::size_t pair = state.slip.size();
-            const double earlier = before && !before->slip.empty() ? before->slip[pair] : 0;
-            state.slip.push_back(earlier + all(3 * n.a) - all(3 * n.b));
+            state.slip.push_back((before.slip.empty() ? 0 : before.slip[pair]) + all(3 * n.a) - all(3 * n.b));
         }
     return state;
 }
@@ -227,11 +217,11 @@ Solution solve(const Problem& problem) {
             c.nodes = nodeResults(problem, mesh, structure, start, contact);
             c.joints = jointResults(mesh, structure, start, contact.response);
             c.contact = contact.report;
-            c.equilibrium = equilibrium(problem, mesh, structure, start, contact.response, g, loads[g]);
+            c.equilibrium = equilibrium(structure, start, contact.response, g, loads[g]);
             c.residual = contact.response.residual;
             c.residualPassed = !(c.residual <= problem.DEL);
             c.deflectionPassed = problem.FMAX > 0 && std::abs(all(3 * (problem.NNCK - 1))) > problem.FMAX;
-            c.state = stateAfter(problem, mesh, p, start, contact, all);
+            c.state = stateAfter(mesh, before(problem, p), contact.response, all);
         }
     }
     return solution;

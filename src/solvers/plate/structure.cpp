@@ -86,6 +86,13 @@ Vector Structure::expand(const Vector& d) const {
     return all;
 }
 
+Vector Structure::restrict(const std::vector<double>& all) const {
+    Vector d(unknowns_);
+    for (std::size_t i = 0; i < index_.size(); ++i)
+        if (index_[i] >= 0) d(index_[i]) = all[i];
+    return d;
+}
+
 /// Thicknesses run bilinearly between the nodes.
 Section Structure::sectionAt(const Element& element, double xi, double eta) const {
     std::array<double, 2> T{};
@@ -124,7 +131,7 @@ void Structure::assembleElements(Triplets& K) {
             if (at[i] >= 0) thermal_(at[i]) += f(static_cast<Eigen::Index>(i));
         for (int c = 0; c < 4; ++c) {
             const int node = e.nodes[static_cast<std::size_t>(c)];
-            const Vector12 mean = quarters_.mean(c, e.a, e.b) / nodeAreas_(node);
+            const Vector12 mean = quarterIntegral(c, e.a, e.b) / nodeAreas_(node);
             for (std::size_t i = 0; i < 12; ++i)
                 if (at[i] >= 0) C.emplace_back(at[i], node, mean(static_cast<Eigen::Index>(i)));
         }
@@ -195,6 +202,28 @@ Matrix Structure::jointForces(const Vector& d) const {
         }
     }
     return forces;
+}
+
+Matrix Structure::rigidMotions() const {
+    std::vector<std::array<double, 3>> modes{{1, 0, 0}};  // w = first + second x + third y
+    if (problem_.NODSY.empty()) modes.push_back({0, 1, 0});
+    if (problem_.NODSX.empty()) modes.push_back({0, 0, 1});
+    const auto each = static_cast<Eigen::Index>(modes.size());
+    const int groups = *std::max_element(mesh_.group.begin(), mesh_.group.end()) + 1;
+    Matrix motions = Matrix::Zero(unknowns_, groups * each);
+    for (int n = 0; n < mesh_.count(); ++n) {
+        const Node& node = mesh_.nodes[static_cast<std::size_t>(n)];
+        const auto slab = static_cast<std::size_t>(node.slab);
+        const double x = node.x + mesh_.origin[slab][0], y = node.y + mesh_.origin[slab][1];
+        for (Eigen::Index m = 0; m < each; ++m) {
+            const auto [one, byX, byY] = modes[static_cast<std::size_t>(m)];
+            const std::array values{one + byX * x + byY * y, -byY, byX};
+            for (int c = 0; c < 3; ++c)
+                if (const int i = unknown(n, c); i >= 0)
+                    motions(i, mesh_.group[slab] * each + m) = values[static_cast<std::size_t>(c)];
+        }
+    }
+    return motions;
 }
 
 void Structure::addAreaLoad(const LoadedArea& area, Vector& f) const {

@@ -40,21 +40,25 @@ class Structure {
         return index_[static_cast<std::size_t>(3 * node + component)];
     }
     std::array<int, 12> unknowns(const Element& element) const;
-    /// All three components of all nodes, 0 where held.
+    /// All three components of all nodes, 0 where held; and back.
     Vector expand(const Vector& d) const;
+    Vector restrict(const std::vector<double>& all) const;
 
     const Sparse& stiffness() const { return K_; }  ///< lower triangle, diagonal complete
     const Sparse& areas() const { return C_; }      ///< unknowns x nodes
     const Vector& nodeAreas() const { return nodeAreas_; }
     const Section& section(int node) const { return sections_[static_cast<std::size_t>(node)]; }
     const std::vector<LooseBar>& looseBars() const { return bars_; }
-    const Quarters& quarters() const { return quarters_; }
 
     /// Nodal loads of a load group: its areas, and the forces, moments, weight and
     /// temperature that every group has.
     Vector loads(std::size_t group) const;
     /// What all loads of a group sum up to, from the input alone: downward force.
     double totalForce(std::size_t group) const;
+
+    /// Motions that bend nothing, a column each: for every group of slabs w = 1, and w = x and
+    /// w = y of the plan where no axis of symmetry forbids it.
+    Matrix rigidMotions() const;
 
     /// Forces that the springs and tight bars of the joints hand over from side a to side b,
     /// for each node pair: column 0 shear (downward on b), column 1 moment about the joint's axis.
@@ -75,7 +79,6 @@ class Structure {
 
     const Problem& problem_;
     const Mesh& mesh_;
-    Quarters quarters_;
     int unknowns_ = 0;
     std::vector<int> index_;
     std::vector<std::array<double, 2>> thickness_;

@@ -18,10 +18,11 @@ namespace plate {
 /// Where a load case starts. Forces and slips count from the data set before, if any; the
 /// displacements of a Response are what its own loads add.
 struct Start {
-    Vector gap;       ///< per node
-    Vector reaction;  ///< per node: precompression
-    Vector slip;      ///< per loose bar: w of side a less w of side b
-    Vector barForce;  ///< per loose bar
+    Vector gap;             ///< per node
+    Vector reaction;        ///< per node: precompression
+    Vector slip;            ///< per loose bar: w of side a less w of side b
+    Vector barForce;        ///< per loose bar
+    Vector displacement{};  ///< unknowns that the data set before left, empty for none
 };
 
 struct State {
@@ -48,6 +49,7 @@ class System {
     virtual Response solve(const Start& start, const State& state, const Vector& f) = 0;
 };
 
+/// @param modulus of subgrade reaction at each node, for FSAF = 1
 std::unique_ptr<System> liquidSystem(const Structure& structure, const Mesh& mesh, const Vector& modulus);
 /// @param flexibility of the foundation, nodes x nodes, for FSAF = 1
 std::unique_ptr<System> condensedSystem(const Structure& structure, const Mesh& mesh, Matrix flexibility);
