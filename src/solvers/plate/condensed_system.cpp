@@ -24,6 +24,7 @@ class CondensedSystem : public System {
           bars_(static_cast<Eigen::Index>(structure.looseBars().size())),
           F_(std::move(ground)) {
         pinned_ = structure.stiffness();
+        rigid_ = structure.rigidMotions();
         for (std::size_t s = 0; s + 1 < mesh.first.size(); ++s) pinSlab(mesh, s);
         makeColumns();
         factor_.compute(pinned_);
@@ -54,6 +55,7 @@ class CondensedSystem : public System {
         }
         Vector d = Vector::Zero(s_.unknowns());
         for (int pass = 0; pass < 2; ++pass) improve(*factor, load, distance, d, q);
+        balance(*factor, f, d, q);
         return forces(start, state, f, d, q);
     }
 
@@ -62,6 +64,7 @@ class CondensedSystem : public System {
         std::vector<int> active;  // columns of X in contact
         Eigen::LLT<Matrix> links, pins;
         Matrix coupling, solved;  // G_qE and (G + F)^-1 G_qE
+        Matrix lever, shift;      // X_q^T rigid and (G + F)^-1 of it
     };
 
     void pinSlab(const Mesh& mesh, std::size_t slab) {
@@ -145,6 +148,8 @@ class CondensedSystem : public System {
         if (factor.links.info() != Eigen::Success) return false;
         factor.coupling = G_(factor.active, Eigen::lastN(pins_));
         factor.solved = factor.links.solve(factor.coupling);
+        factor.lever = (X_.transpose() * rigid_)(factor.active, Eigen::all);
+        factor.shift = factor.links.solve(factor.lever);
         const Matrix carried = factor.coupling.transpose() * factor.solved;
         Matrix pins = carried - G_.bottomRightCorner(pins_, pins_);
         for (Eigen::Index p = 0; p < pins_; ++p) pins(p, p) += 1 / pinStiffness_[static_cast<std::size_t>(p)];
@@ -193,6 +198,18 @@ class CondensedSystem : public System {
         d += step - factor_.solve(X_ * all);
     }
 
+    /// Moves the slabs as rigid bodies until the ground carries the loads: in exact numbers by nothing,
+    /// with rounding by what very stiff slabs lose.
+    void balance(const Factor& factor, const Vector& f, Vector& d, Vector& q) const {
+        const Vector missing =
+            rigid_.transpose() * (f - X_.leftCols(nodes_ + bars_) * q.head(nodes_ + bars_));
+        const Vector move = Matrix(factor.lever.transpose() * factor.shift).ldlt().solve(missing);
+        const Vector change = factor.shift * move;
+        for (std::size_t i = 0; i < factor.active.size(); ++i)
+            q(factor.active[i]) += change(static_cast<Eigen::Index>(i));
+        d += rigid_ * move;
+    }
+
     Response forces(const Start& start, const State& state, const Vector& f, const Vector& d,
                     const Vector& q) const {
         Response r;
@@ -213,7 +230,7 @@ class CondensedSystem : public System {
 
     const Structure& s_;
     Eigen::Index nodes_, bars_, pins_ = 0;
-    Matrix F_, G_;
+    Matrix F_, G_, rigid_;
     double FSAF_ = 1;
     Sparse pinned_, X_;
     std::vector<int> pinAt_;

@@ -107,8 +107,21 @@ double meanSmooth(const RadialTable& table, double dx, double dy, const Rule& rx
     return sum;
 }
 
-/// Near rectangles are cut to parts over which `smooth` changes little.
-double meanSmooth(const RadialTable& table, const Rectangle& p, const Rectangle& q, double scale) {
+/// Rectangles further apart than this times their size count as points with moments.
+constexpr double farApart = 20, farForSmooth = 10;
+
+double diagonal(const Rectangle& r) { return std::hypot(r.x1 - r.x0, r.y1 - r.y0); }
+double distance(const Rectangle& p, const Rectangle& q) {
+    return std::hypot(p.x0 + p.x1 - q.x0 - q.x1, p.y0 + p.y1 - q.y0 - q.y1) / 2;
+}
+
+double evenRule(const RadialTable& table, const Rectangle& p, const Rectangle& q) {
+    return meanSmooth(table, (p.x0 + p.x1 - q.x0 - q.x1) / 2, (p.y0 + p.y1 - q.y0 - q.y1) / 2,
+                      differenceRule(p.x1 - p.x0, q.x1 - q.x0), differenceRule(p.y1 - p.y0, q.y1 - q.y0));
+}
+
+/// Cuts both rectangles to parts over which `smooth` changes little.
+double cutToParts(const RadialTable& table, const Rectangle& p, const Rectangle& q, double scale) {
     const double dx = (p.x0 + p.x1 - q.x0 - q.x1) / 2, dy = (p.y0 + p.y1 - q.y0 - q.y1) / 2;
     const double px = p.x1 - p.x0, py = p.y1 - p.y0, qx = q.x1 - q.x0, qy = q.y1 - q.y0;
     const double part = (scale + std::hypot(dx, dy)) / 2;
@@ -125,38 +138,77 @@ double meanSmooth(const RadialTable& table, const Rectangle& p, const Rectangle&
     return sum / (npx * npy * nqx * nqy);
 }
 
+/// A node's area and the node in it, which divides it into the elements' quarters.
+struct Area {
+    Rectangle whole;
+    double x, y;
+
+    template <class Use>
+    void quarters(Use use) const {
+        for (const auto& [x0, x1] : {std::pair{whole.x0, x}, std::pair{x, whole.x1}})
+            for (const auto& [y0, y1] : {std::pair{whole.y0, y}, std::pair{y, whole.y1}})
+                if (x1 > x0 && y1 > y0) use(Rectangle{x0, x1, y0, y1});
+    }
+};
+
+/// Near areas are taken quarter by quarter, so that an area cut by an axis of symmetry and its image
+/// are together exactly the whole area.
+double meanSmooth(const RadialTable& table, const Area& p, const Area& q, double scale) {
+    if (distance(p.whole, q.whole) > farForSmooth * std::max(diagonal(p.whole), diagonal(q.whole)))
+        return evenRule(table, p.whole, q.whole);
+    double sum = 0;
+    p.quarters([&](const Rectangle& a) {
+        q.quarters([&](const Rectangle& b) { sum += a.area() * b.area() * cutToParts(table, a, b, scale); });
+    });
+    return sum / (p.whole.area() * q.whole.area());
+}
+
 // ---- Slab by slab --------------------------------------------------------------------
 
 /// Borders of a slab's node areas; mirrored ones run downward and keep the order of nodes.
 struct Borders {
     std::vector<double> x, y;
+    std::vector<double> nodeX, nodeY;  ///< the nodes between them
 };
 
 Borders bordersOf(const Mesh& mesh, std::size_t slab) {
     const auto first = static_cast<std::size_t>(mesh.first[slab]),
                last = static_cast<std::size_t>(mesh.first[slab + 1]);
+    const auto [originX, originY] = mesh.origin[slab];
     Borders b;
     b.x.push_back(mesh.nodes[first].tributary.x0);
     b.y.push_back(mesh.nodes[first].tributary.y0);
     for (std::size_t n = first; n < last; ++n) {
-        const Rectangle& r = mesh.nodes[n].tributary;
-        if (r.x1 > b.x.back()) b.x.push_back(r.x1);
-        if (b.x.size() == 2) b.y.push_back(r.y1);
+        const Node& node = mesh.nodes[n];
+        if (node.tributary.x1 > b.x.back()) {
+            b.x.push_back(node.tributary.x1);
+            b.nodeX.push_back(node.x + originX);
+        }
+        if (b.x.size() == 2) {
+            b.y.push_back(node.tributary.y1);
+            b.nodeY.push_back(node.y + originY);
+        }
     }
     return b;
 }
 
-std::vector<double> mirrored(std::vector<double> edges, double line) {
-    for (double& e : edges) e = 2 * line - e;
-    return edges;
+Borders mirroredX(Borders b, double line) {
+    for (auto* list : {&b.x, &b.nodeX})
+        for (double& x : *list) x = 2 * line - x;
+    return b;
+}
+Borders mirroredY(Borders b, double line) {
+    for (auto* list : {&b.y, &b.nodeY})
+        for (double& y : *list) y = 2 * line - y;
+    return b;
 }
 
-Rectangle rectangle(const Borders& b, std::size_t i, std::size_t j) {
-    return {std::min(b.x[i], b.x[i + 1]), std::max(b.x[i], b.x[i + 1]), std::min(b.y[j], b.y[j + 1]),
-            std::max(b.y[j], b.y[j + 1])};
+Area areaOf(const Borders& b, std::size_t i, std::size_t j) {
+    return {{std::min(b.x[i], b.x[i + 1]), std::max(b.x[i], b.x[i + 1]), std::min(b.y[j], b.y[j + 1]),
+             std::max(b.y[j], b.y[j + 1])},
+            b.nodeX[i],
+            b.nodeY[j]};
 }
-
-double diagonal(const Rectangle& r) { return std::hypot(r.x1 - r.x0, r.y1 - r.y0); }
 
 /// Rectangles share borders: the fourth integral is found once for each
 /// pair of borders of two slabs.
@@ -176,9 +228,6 @@ class BorderTable {
     std::size_t nqx_, nqy_, npy_;
     std::vector<double> values_;
 };
-
-/// Rectangles further apart than this times their size are taken by their moments.
-constexpr double farApart = 20;
 
 double meanBetween(const Rectangle& p, const Rectangle& q, const auto& integral) {
     const double dx = (p.x0 + p.x1 - q.x0 - q.x1) / 2, dy = (p.y0 + p.y1 - q.y0 - q.y1) / 2;
@@ -205,8 +254,8 @@ void addPair(Eigen::MatrixXd& F, const Mesh& mesh, std::size_t p, const Borders&
                     const auto row = mesh.first[p] + static_cast<int>(i * npy + j);
                     const auto column = mesh.first[q] + static_cast<int>(k * nqy + l);
                     if (column > row) continue;
-                    const Rectangle a = rectangle(target, i, j), b = rectangle(source, k, l);
-                    double mean = factor * meanBetween(a, b, [&](auto u, auto v, auto s, auto t) {
+                    const Area a = areaOf(target, i, j), b = areaOf(source, k, l);
+                    double mean = factor * meanBetween(a.whole, b.whole, [&](auto u, auto v, auto s, auto t) {
                                       return table.at(i + u, k + v, j + s, l + t);
                                   });
                     if (smooth) mean += meanSmooth(*smooth, a, b, kernel.scale);
@@ -248,10 +297,10 @@ Eigen::MatrixXd flexibility(const Mesh& mesh, const SurfaceKernel& kernel, const
             if (mesh.group[p] != mesh.group[q]) continue;
             const Borders target = bordersOf(mesh, p), source = bordersOf(mesh, q);
             std::vector<Borders> images{source};
-            if (mirrors.x) images.push_back({mirrored(source.x, *mirrors.x), source.y});
+            if (mirrors.x) images.push_back(mirroredX(source, *mirrors.x));
             if (mirrors.y)
                 for (std::size_t i = images.size(); i-- > 0;)
-                    images.push_back({images[i].x, mirrored(images[i].y, *mirrors.y)});
+                    images.push_back(mirroredY(images[i], *mirrors.y));
             for (const Borders& image : images)
                 addPair(F, mesh, p, target, q, image, kernel, smooth ? &*smooth : nullptr);
         }
