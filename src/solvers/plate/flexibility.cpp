@@ -124,7 +124,9 @@ double evenRule(const RadialTable& table, const Rectangle& p, const Rectangle& q
 double cutToParts(const RadialTable& table, const Rectangle& p, const Rectangle& q, double scale) {
     const double dx = (p.x0 + p.x1 - q.x0 - q.x1) / 2, dy = (p.y0 + p.y1 - q.y0 - q.y1) / 2;
     const double px = p.x1 - p.x0, py = p.y1 - p.y0, qx = q.x1 - q.x0, qy = q.y1 - q.y0;
-    const double part = (scale + std::hypot(dx, dy)) / 2;
+    const double between =
+        std::hypot(std::max(0., std::abs(dx) - (px + qx) / 2), std::max(0., std::abs(dy) - (py + qy) / 2));
+    const double part = (scale + between) / 2;
     const auto cuts = [part](double side) { return std::ceil(side / part); };
     const double npx = cuts(px), npy = cuts(py), nqx = cuts(qx), nqy = cuts(qy);
     const Rule rx = differenceRule(px / npx, qx / nqx), ry = differenceRule(py / npy, qy / nqy);
@@ -238,7 +240,7 @@ double meanBetween(const Rectangle& p, const Rectangle& q, const auto& integral)
         for (std::size_t k = 0; k < 2; ++k)
             for (std::size_t j = 0; j < 2; ++j)
                 for (std::size_t l = 0; l < 2; ++l) sum += sign(i, k) * sign(j, l) * integral(i, k, j, l);
-    return std::abs(sum) / (p.area() * q.area());
+    return std::abs(sum) / (p.area() * q.area());  // borders of a mirror image run backward
 }
 
 /// Adds the influence of slab q's areas, with borders `source`, on slab p's areas.

@@ -107,10 +107,11 @@ TEST(PlateContact, ContinuesFromTheSetBefore) {
         p.joints = {{0, 0, 1.5e6, 1, 12, 0.2, 0.003, {}}};
         p.YMSB = 29e6;
         p.NG = {{nodeAt(p, 4, 4), 0.01}, {nodeAt(p, 4, 5), 0.01}};
-        Problem both = p;
-        both.groups = {{{1, 160, 180, 0, 20, 60}}};
+        p.groups = {{{1, 150, 180, 0, 30, 40}}};
+        Problem both = p, second = p;
+        second.groups = {{{2, 0, 20, 0, 60, 60}}};  // turns the slip of the bars
+        both.groups[0].push_back(second.groups[0][0]);
         const Solution first = solved(p), whole = solved(both);
-        Problem second = both;
         second.NWT = false;
         second.TEMP = 0;
         second.NG.clear();
@@ -125,7 +126,9 @@ TEST(PlateContact, ContinuesFromTheSetBefore) {
         for (std::size_t j = 0; j < 9; ++j)
             EXPECT_NEAR(first.cases[0].joints[j].shear + added.cases[0].joints[j].shear,
                         whole.cases[0].joints[j].shear, 1e-5);
-        EXPECT_NEAR(added.cases[0].equilibrium.load, 24000, 1e-6);
+        EXPECT_NEAR(added.cases[0].equilibrium.load, 72000, 1e-6);
+        EXPECT_GT(first.cases[0].joints[0].shear, 100);
+        EXPECT_LT(whole.cases[0].joints[0].shear, -100);
     }
 }
 
