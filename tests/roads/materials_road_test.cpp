@@ -393,4 +393,52 @@ Damage by duals and tandems
 INSTANTIATE_TEST_SUITE_P(Decks, MaterialsRoad, ::testing::Values(nonlinear, viscoelastic, combined, damage),
                          [](const auto& journey) { return journey.param.name; });
 
+TEST_F(Road, ANonlinearLayerIsLeftForItsConstantsAndComesBackOnTheNextLine) {
+    click("frmTOLMARK", "cmdBedform");
+    choose("frmBEDFORM", "mnuNew");
+    LayeredSet& set = store.layered[1];
+    set.MATL = 2;
+    set.NOLAY = 2;
+    click("frmBEDFORM", "mnuNonlinear");
+    click("frmNonlin", "mnuNonseasonal");
+    dialogs.expectBox("ZCNOL cannot be 0");
+    enter("frmSpread1", {"2", "0", "0"});
+    EXPECT_TRUE(dialogs.finished());
+
+    // OK in the last column leads away first, and a form closed by its frame leads nowhere.
+    auto& grid = front("frmSpread1").control<FlexGrid>("GridSpreadsheet");
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.cellRect(1, 2).center());
+    enter("frmSpread1", {"8"});
+    click("frmSpread1", "BtnRun");
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    type("frmGranular", "txtK0", "9");
+    front("frmGranular").close();
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    EXPECT_EQ(word("frmNonlin", "lblNonseasonal"), "input");
+    EXPECT_EQ(set.NOLLAY[1].ZCNOL, Variant(8));
+    EXPECT_EQ(set.KGRAN[1].K0, Variant(.6));
+
+    click("frmNonlin", "mnuNonseasonal");
+    front("frmSpread1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    type("frmGranular", "txtK0", ".5");
+    click("frmGranular", "cmdOK");
+    enter("frmSpread1", {"3", "13", "1"});
+    type("frmClay", "txtK3", "1200");
+    click("frmClay", "cmdOK");
+
+    // A line goes in above the first one and out again: the constants go with their lines.
+    front("frmSpread1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(set.KGRAN[2].K0, Variant(.5));
+    EXPECT_EQ(set.KCLAY[3].K3, Variant(1200));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, Qt::ControlModifier);
+    click("frmSpread1", "BtnRun");
+    EXPECT_EQ(word("frmNonlin", "lblNonseasonal"), "done");
+    EXPECT_EQ(set.NOLAY, Variant(2));
+    EXPECT_EQ(set.NOLLAY[2].LAYNO, Variant(3));
+    EXPECT_EQ(set.KGRAN[1].K0, Variant(.5));
+    EXPECT_EQ(set.KCLAY[2].K3, Variant(1200));
+}
+
 }  // namespace
