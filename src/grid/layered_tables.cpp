@@ -17,6 +17,15 @@ TableField NZ(Store& s, const TablePlace& p, int) { return &layered(s, p).NZ; }
 /// NR or NPT of the line that the auxiliary table belongs to.
 TableField NRofGroup(Store& s, const TablePlace& p, int) { return &layered(s, p).LOADL[p.group].NR; }
 
+TableField NPY(Store& s, const TablePlace& p, int) { return &layered(s, p).NPY; }
+TableField NLBT(Store& s, const TablePlace& p, int) { return &layered(s, p).NLBT; }
+TableField NLTC(Store& s, const TablePlace& p, int) { return &layered(s, p).NLTC; }
+TableField NOLAY(Store& s, const TablePlace& p, int) { return &layered(s, p).NOLAY; }
+TableField NVL(Store& s, const TablePlace& p, int) { return &layered(s, p).NVL; }
+TableField NTYME(Store& s, const TablePlace& p, int) { return &layered(s, p).NTYME; }
+/// Kept: the count of load repetitions goes to the slab side, at the index of the layered data set.
+TableField slabNLG(Store& s, const TablePlace& p, int) { return &s.slab[p.dataSet].NLG; }
+
 TableField ZC(Store& s, const TablePlace& p, int line) { return &layered(s, p).ZC[line]; }
 TableField TH(Store& s, const TablePlace& p, int line) { return &layered(s, p).LAYER[line].TH; }
 TableField PR(Store& s, const TablePlace& p, int line) { return &layered(s, p).LAYER[line].PR; }
@@ -33,6 +42,35 @@ TableField NR(Store& s, const TablePlace& p, int line) { return &layered(s, p).L
 TableField RC(Store& s, const TablePlace& p, int line) { return &layered(s, p).RC[p.group][line]; }
 TableField XPT(Store& s, const TablePlace& p, int line) { return &layered(s, p).PT[p.group][line].XPT; }
 TableField YPT(Store& s, const TablePlace& p, int line) { return &layered(s, p).PT[p.group][line].YPT; }
+
+TableField RELAX(Store& s, const TablePlace& p, int line) { return &layered(s, p).RELAX[line]; }
+TableField LAYNO(Store& s, const TablePlace& p, int line) { return &layered(s, p).NOLLAY[line].LAYNO; }
+TableField ZCNOL(Store& s, const TablePlace& p, int line) { return &layered(s, p).NOLLAY[line].ZCNOL; }
+TableField NCLAY(Store& s, const TablePlace& p, int line) { return &layered(s, p).NOLLAY[line].NCLAY; }
+/// Value m of the nonlinear layer and period: PHI, K1 of granular materials, EMIN, EMAX, K1 of clays.
+template <int m>
+TableField KPER(Store& s, const TablePlace& p, int line) {
+    return &layered(s, p).KPER[p.layer][line][m];
+}
+TableField clayType(Store& s, const TablePlace& p, int line) {
+    return &layered(s, p).KPERX[p.layer][line][1];
+}
+
+TableField TYME(Store& s, const TablePlace& p, int line) { return &layered(s, p).TYME[line]; }
+TableField LNV(Store& s, const TablePlace& p, int line) { return &layered(s, p).VISLAY[line].LNV; }
+TableField BETA(Store& s, const TablePlace& p, int line) { return &layered(s, p).VISLAY[line].BETA; }
+TableField TEMPREF(Store& s, const TablePlace& p, int line) { return &layered(s, p).VISLAY[line].TEMPREF; }
+TableField CREEP(Store& s, const TablePlace& p, int line) { return &layered(s, p).CREEP[p.layer][line]; }
+TableField TEMP(Store& s, const TablePlace& p, int line) { return &layered(s, p).TEMP[p.period][line]; }
+
+TableField LNBT(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMBT[line].LNBT; }
+TableField FT1(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMBT[line].FT1; }
+TableField FT2(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMBT[line].FT2; }
+TableField FT3(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMBT[line].FT3; }
+TableField LNTC(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMTC[line].LNTC; }
+TableField FT4(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMTC[line].FT4; }
+TableField FT5(Store& s, const TablePlace& p, int line) { return &layered(s, p).DAMTC[line].FT5; }
+TableField TNLR(Store& s, const TablePlace& p, int line) { return &layered(s, p).TNLR[p.period][line]; }
 
 /// A load group beyond the store counts as a single wheel, as its line shows 0.
 bool isSingleWheel(Store& s, const TablePlace& p, int) {
@@ -71,6 +109,54 @@ void clearLoad(Store& s, const TablePlace& p, int line) {
             set.PT[line][point] = {0, 0};
         }
     });
+}
+
+void moveNonlinearLayer(Store& s, const TablePlace& p, int from, int to) {
+    LayeredSet& set = layered(s, p);
+    set.NOLLAY[to] = set.NOLLAY[from];
+    if (numberOf(&set.NOLLAY[to].NCLAY).value_or(0) != 0) {
+        set.KCLAY[to] = set.KCLAY[from];
+    } else {
+        set.KGRAN[to] = set.KGRAN[from];
+    }
+}
+
+void clearNonlinearLayer(Store& s, const TablePlace& p, int line) {
+    layered(s, p).KCLAY[line] = {};
+    layered(s, p).KGRAN[line] = {};
+}
+
+const char* nonlinearForm(const std::vector<Single>& values) {
+    return values[3] != 0 ? "frmClay" : "frmGranular";
+}
+
+/// EMIN, EMAX and K1 by clay type (1 very soft to 4 stiff), in psi and in kPa.
+constexpr int clayDefaults[2][4][3] = {
+    {{1000, 5662, 1000}, {1827, 7682, 3020}, {4716, 12342, 7680}, {7605, 17002, 12340}},
+    {{6895, 39040, 6895}, {12597, 52967, 20823}, {32517, 85098, 52954}, {52436, 117229, 85084}}};
+
+/// Periods of any other type keep their values.
+void takeClayDefaults(Store& s, const TablePlace& p, int lines, TableOutcome&) {
+    LayeredSet& set = layered(s, p);
+    for (int period = 1; period <= std::min(lines, 12); ++period) {
+        const Double type = numberOf(clayType(s, p, period)).value_or(0);
+        for (int known = 1; known <= 4; ++known) {
+            if (type != known) continue;
+            for (int m = 1; m <= 3; ++m)
+                set.KPER[p.layer][period][m] = clayDefaults[isSI(s, p) ? 1 : 0][known - 1][m - 1];
+        }
+    }
+}
+
+bool isClayTypes(Store&, const TablePlace&, int cols) { return cols == 2; }
+bool isGranular(Store&, const TablePlace&, int cols) { return cols == 3; }
+
+/// A reference temperature of one's own calls for the temperatures of the periods.
+void tellTemperature(Store& s, const TablePlace& p, int, TableOutcome& outcome) {
+    const auto reference = numberOf(TEMPREF(s, p, 1));
+    const bool usual = reference == 70.0 || reference == 21.1;
+    outcome.words.push_back(
+        {"frmVisco", "lbltemperature", usual ? StatusWord::Word::BlueDefault : StatusWord::Word::Input});
 }
 
 using Bad = TableTest::Bad;
@@ -169,6 +255,136 @@ const std::vector<TableEntry>& layeredTables() {
          .count = NRofGroup,
          .status = {"frmBEDFORM", "lblLoad1"},
          .next = {"frmSpread1", 7, NLG}},
+        {.kind = 110,
+         .form = "frmspreadb",
+         .caption = "Relaxation factor of Each Period for Data Set No.{set}",
+         .rowHead = "Period No.",
+         .columns = {{"RELAX", RELAX}},
+         .help = "table_110",
+         .count = NPY,
+         .status = {"frmNonlin", "lblRelaxation"}},
+        {.kind = 111,
+         .form = "frmSpread1",
+         .caption = "Nonseasonal Information for Data Set No.{set}",
+         .rowHead = "Sequence",
+         .columns = {{"LAYNO", LAYNO}, {"ZCNOL", ZCNOL}, {"NCLAY", NCLAY}},
+         .help = "table_111",
+         .doubleHint = "Double click anywhere on a line to get auxiliary form.",
+         .count = NOLAY,
+         .tests = {{3, 1, Bad::Zero, 0, "LAYNO should not be 0"}},
+         .status = {"frmNonlin", "lblNonseasonal"},
+         .chain = {.enterColumn = 3,
+                   .enterAlways = true,
+                   .tests = {{1, "LAYNO cannot be 0"}, {2, "ZCNOL cannot be 0"}},
+                   .form = nonlinearForm},
+         .moveLine = moveNonlinearLayer,
+         .clearLine = clearNonlinearLayer},
+        {.kind = 112,
+         .form = "frmspreadb",
+         .when = isGranular,
+         .caption = "Seasonal Input Parameters for Layer No.{number} (Granular) and Data Set No.{set}",
+         .number = LAYNO,
+         .rowHead = "Period No.",
+         .columns = {{"PHI", KPER<1>, true}, {"K1", KPER<2>, true}},
+         .units = "Unit   degree    psi",
+         .unitsSI = "Unit   degree    kPa",
+         .help = "table_112_granular",
+         .count = NPY,
+         .tests = {{2, 2, Bad::Zero, 0, "K1 should not be 0"}},
+         .status = {"frmLayer", "lblLayer{layer}"}},
+        {.kind = 112,
+         .form = "frmspreadb",
+         .when = isClayTypes,
+         .caption = "Seasonal Input Parameters for Layer No.{number} (CLAY) and Data Set No.{set}",
+         .number = LAYNO,
+         .rowHead = "Period No.",
+         .columns = {{"Clay Type", clayType}},
+         .help = "table_112_types",
+         .showsZeros = true,
+         .count = NPY,
+         .afterStore = takeClayDefaults,
+         .next = {"frmSpread2", 4}},
+        {.kind = 112,
+         .form = "frmSpread2",
+         .caption = "Seasonal Input Parameters for Layer No.{number} (Clay) and Data Set No.{set}",
+         .number = LAYNO,
+         .rowHead = "Period No.",
+         .columns = {{"EMIN", KPER<1>, true}, {"EMAX", KPER<2>, true}, {"K1", KPER<3>, true}},
+         .units = "Unit        psi     psi     psi",
+         .unitsSI = "Unit        kPa     kPa     kPa",
+         .help = "table_112_clay",
+         .count = NPY,
+         .status = {"frmLayer", "lblLayer{layer}"}},
+        {.kind = 116,
+         .form = "frmspreadb",
+         .caption = "Time Durations of Creep Compliances for Data Set No.{set}",
+         .rowHead = "Sequence",
+         .columns = {{"TYME", TYME, true}},
+         .units = "Unit     sec",
+         .unitsSI = "Unit     sec",
+         .help = "table_116",
+         .count = NTYME,
+         .status = {"frmVisco", "lblDuration"}},
+        {.kind = 117,
+         .form = "frmSpread2",
+         .caption = "Vicoelastic Layer Information for Data Set No.{set}",  // so spelt: kept
+         .rowHead = "Sequence",
+         .columns = {{"LAYNO", LNV}, {"BETA", BETA, true}, {"TEMPREF", TEMPREF, true}},
+         .units = "Unit               per F    F",
+         .unitsSI = "Unit               per C    C",
+         .help = "table_117",
+         .count = NVL,
+         .tests = {{3, 1, Bad::Zero, 0, "LAYNO should not be 0"}},
+         .afterStore = tellTemperature,
+         .status = {"frmVisco", "lblLayer"}},
+        {.kind = 118,
+         .form = "frmspreadb",
+         .caption = "Creep Compliances of Layer No.{number} for Data Set No.{set}",
+         .number = LNV,
+         .rowHead = "TYME",
+         .columns = {{"CREEP", CREEP, true}},
+         .units = "Unit     per psi",
+         .unitsSI = "Unit     per kPa",
+         .help = "table_118",
+         .rowLabel = TYME,
+         .count = NTYME,
+         .status = {"frmLayer", "lblLayer{layer}"}},
+        {.kind = 119,
+         .form = "frmspreadb",
+         .caption = "Temperature of Each Layer for Period No.{period} and Data Set No.{set}",
+         .rowHead = "Layer No.",
+         .columns = {{"TEMP", TEMP, true}},
+         .units = "Unit      F",
+         .unitsSI = "Unit      C",
+         .help = "table_119",
+         .count = NVL,
+         .status = {"frmPeriod", "lblPeriod{period}"}},
+        {.kind = 121,
+         .form = "frmSpread2",
+         .caption = "Layer Number and Fatigue Coefficients for Data Set No.{set}",
+         .rowHead = "Sequence",
+         .columns = {{"LNBT", LNBT}, {"FT1", FT1}, {"FT2", FT2}, {"FT3", FT3}},
+         .help = "table_121",
+         .count = NLBT,
+         .tests = {{4, 1, Bad::Zero, 0, "LNBT should not be 0"}},
+         .status = {"frmDamage1", "lblBottom"}},
+        {.kind = 122,
+         .form = "frmSpread2",
+         .caption = "Layer Number and Permanent Deformation Coefficients for Data Set No.{set}",
+         .rowHead = "Sequence",
+         .columns = {{"LNTC", LNTC}, {"FT4", FT4}, {"FT5", FT5}},
+         .help = "table_122",
+         .count = NLTC,
+         .tests = {{3, 1, Bad::Zero, 0, "LNTC should not be 0"}},
+         .status = {"frmDamage1", "lblTop"}},
+        {.kind = 123,
+         .form = "frmspreadb",
+         .caption = "Load Repetition for Period No.{period} and Data Set No.{set}",
+         .rowHead = "Load Group No.",
+         .columns = {{"TNLR", TNLR}},
+         .help = "table_123",
+         .count = slabNLG,
+         .status = {"frmPeriod", "lblPeriod{period}"}},
     };
     return tables;
 }

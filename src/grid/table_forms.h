@@ -26,7 +26,7 @@ inline constexpr TableForm tableForms[] = {
      .otherWidth = 980,
      .page = 20,
      .linesInSight = 12},
-    {.name = "frmSpread2", .firstWidth = 1200, .page = 5, .pageStepDown = 1, .linesInSight = 7},
+    {.name = "frmSpread2", .firstWidth = 1200, .page = 5, .pageStepDown = 1, .linesInSight = 6},
     {.name = "frmSpread3",
      .firstWidth = 1200,
      .lineEditing = false,

@@ -145,8 +145,6 @@ void frmBEDFORM::Form_Load() {
     present();
 }
 
-// --- Menus ---------------------------------------------------------------
-
 /// Even a click that is refused counts as a change.
 void frmBEDFORM::dataMenu_Click(std::size_t row) {
     const DataMenu& menu = dataMenus[row];
@@ -233,8 +231,6 @@ void frmBEDFORM::showDataSets() {
     }
 }
 
-// --- Data sets ------------------------------------------------------------
-
 /// The first click on a data set that the deck does not have makes it, as a copy of the first one.
 void frmBEDFORM::optDataSet_Click(int n) {
     store_.CurLayDS = n;
@@ -250,8 +246,6 @@ void frmBEDFORM::optDataSet_Click(int n) {
 }
 
 void frmBEDFORM::ColorCode(int n) { showStatusWords(*this, colorCodeRules, store_.layered[n]); }
-
-// --- Saving ---------------------------------------------------------------
 
 bool frmBEDFORM::errorFound() {
     const auto missing = ErrCheck1(store_);

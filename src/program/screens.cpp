@@ -1,13 +1,12 @@
 #include "program/screens.h"
 
+#include "grid/frm_table.h"
+#include "layered/frm_layered.h"
 #include "platform/qt/form.h"
 #include "plots/frm_bedplot.h"
 #include "store/frm_tolmark.h"
 
 namespace {
-
-/// Of the table forms only one is open.
-const char* const tables = "table";
 
 template <class Screen>
 Screens::Make make(Program& program) {
@@ -18,5 +17,7 @@ Screens::Make make(Program& program) {
 
 void addScreens(Screens& screens, Program& program) {
     screens.add("frmTOLMARK", make<frmTOLMARK>(program));
+    addLayeredForms(program);
+    addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
 }

@@ -167,6 +167,18 @@ TEST_F(TableFormTest, TheTextBoxLiesOverTheCellAndTakesTheKeys) {
     EXPECT_EQ(at(table), "1,1");
     doubleClick(table, 3, 1);
     EXPECT_FALSE(box.isVisible()) << "a double click opens nothing here";
+    key(Qt::Key_7, Qt::KeypadModifier);
+    EXPECT_EQ(box.textValue(), "7");
+}
+
+TEST_F(TableFormTest, ASelectionIsEditedWhereItBeganAndLeftWhereItEnds) {
+    FlexGrid& table = grid(open(103, "frmspreadb", 6, 2));
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    key(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(at(table) + " " + std::to_string(table.RowSel()), "1,1 3");
+    enter("5");
+    EXPECT_EQ(column(table, 1) + at(table), "5| 0| 0| 0| 0| 0|4,1");
+    EXPECT_EQ(table.RowSel(), 4);
 }
 
 TEST_F(TableFormTest, ClicksCommitIntoTheCellThatWasEdited) {
@@ -310,8 +322,8 @@ TEST_F(TableFormTest, ALoadGroupLeadsToItsPointsAndBack) {
     key(Qt::Key_Escape);
     click(grid(back), 2, 6);
     type("1");
-    click(grid(back), 1, 1);
-    doubleClick(grid(back), 2, 1);
+    const QPoint label(5, grid(back).cellRect(2, 1).center().y());
+    QTest::mouseDClick(grid(back).verticalHeader()->viewport(), Qt::LeftButton, {}, label);
     EXPECT_EQ(grid(front("frmspreadb")).Cols(), 3);
     type("3");
     pressOK("frmspreadb");

@@ -63,8 +63,6 @@ TEST_F(Bedform, StartsWithTheNameOfTheMainScreenAndFirstDataSet) {
     EXPECT_EQ(printer.jobs.at(0).size, 10);
 }
 
-// --- Menus ---------------------------------------------------------------
-
 struct MenuCase {
     const char *menu, *label;
     std::function<void(LayeredSet&)> refused;  ///< empty: always opens
@@ -159,8 +157,6 @@ TEST_F(Bedform, ACountBeyondEveryTableIsTold) {
     EXPECT_EQ(screens.loaded("frmspreadb"), nullptr);
 }
 
-// --- New and data sets ------------------------------------------------------
-
 TEST_F(Bedform, NewSetsDefaultsAndLeavesButtonsAndDoneWords) {
     click(*menu, "optDataSet2");
     screens.done("frmBEDFORM", "lblLayer");
@@ -199,6 +195,10 @@ TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
     click(*menu, "optDataSet3");
     EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8)) << "not copied again";
     EXPECT_EQ(caption("lblDamage"), "input");
+
+    newRoad();
+    click(*menu, "optDataSet3");
+    EXPECT_EQ(store.layered[3].TITLE, "Three layers") << "another new file";
 }
 
 TEST_F(Bedform, ADataSetThatAnEarlierFileMadeIsNotCopiedAgain) {
@@ -221,8 +221,6 @@ TEST_F(Bedform, AfterACheckAClickLeadsBackToTheDataSet) {
     click(*menu, "optDataSet2");
     EXPECT_EQ(store.CurLayDS, 2);
 }
-
-// --- Old --------------------------------------------------------------------
 
 TEST_F(Bedform, OldReadsADeckAndTellsTheMainScreen) {
     const TemporaryDirectory elsewhere;
@@ -298,14 +296,18 @@ TEST_F(Bedform, AFileThatIsNoLayeredDeckUnloadsAndABrokenOneStaysAsFarAsRead) {
     EXPECT_EQ(set.TITLE, "Three layers");
 }
 
-// --- Saving -----------------------------------------------------------------
-
 TEST_F(Bedform, SaveWritesANewFileUnderItsBareNameInTheDataDirectory) {
     newRoad();
     dialogs.expectBox(saved("UNTITLED.DAT"));
     click(*menu, "cmdSave");
     EXPECT_EQ(titleInDeck(directory.path() + "UNTITLED.DAT"), "Three layers");
     EXPECT_EQ(mainBox("cmbFileName"), "UNTITLED.DAT");
+
+    const TemporaryDirectory elsewhere;
+    main->control<ComboBox>("cmbDataPath").setTextValue(elsewhere.path());
+    dialogs.expectBox(saved("UNTITLED.DAT"));
+    click(*menu, "cmdSave");
+    EXPECT_EQ(titleInDeck(elsewhere.path() + "UNTITLED.DAT"), "Three layers");
 
     click(*menu, "cmdExit");  // nobody asks
     EXPECT_FALSE(isOpen());
@@ -386,6 +388,7 @@ TEST_F(Bedform, ACancelledSaveAsSavesUnderThePresentName) {
     main->control<ComboBox>("cmbDataPath").setTextValue(directory.path());  // the user moved on meanwhile
     dialogs.expectBox(saved("road.dat"));
     saveAs(std::nullopt);
+    EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
     EXPECT_EQ(titleInDeck(directory.path() + "road.dat"), "Three layers");
     EXPECT_EQ(caption("lblFile"), "road");
 }
@@ -397,8 +400,6 @@ TEST_F(Bedform, AFailedSaveAsIsSilentAndTheExitStillAsks) {
     click(*menu, "cmdExit");
     EXPECT_FALSE(isOpen());
 }
-
-// --- Leaving ----------------------------------------------------------------
 
 TEST_F(Bedform, ExitAndFrameAskTheSame) {
     const std::function<void()> ways[] = {[&] { click(*menu, "cmdExit"); }, [&] { menu->close(); }};

@@ -115,12 +115,6 @@ TEST_F(Boards, CaptionsTellPeriodsAndLayers) {
     EXPECT_EQ(layers.control<Button>("cmdLayer2").caption(), "&2  Layer 12");
 }
 
-TEST_F(Boards, ABlankButtonWorksToo) {
-    click(board(106, "frmPeriod"), "cmdPeriod12");
-    EXPECT_EQ(store.CurPeriod, 12);
-    EXPECT_NE(screens.loaded("frmspreadb"), nullptr);
-}
-
 TEST_F(Boards, ALineInsertedInOneTableIsThereInTheNext) {
     Form& form = board(106, "frmPeriod");
     set.NL = 5;  // stored by the table of a period

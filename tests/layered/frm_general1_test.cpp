@@ -127,15 +127,6 @@ TEST_F(General1, ATitleNeedsTextWithoutACommaAndIsStoredAllTheSame) {
     EXPECT_TRUE(isOpen());
 }
 
-TEST_F(General1, ANumberThatNoSingleHoldsIsTold) {
-    fillWhatIsAsked();
-    type(general(), "txtIcl", "1E39");
-    dialogs.expectBox("Overflow");
-    click(general(), "cmdOk");
-    EXPECT_TRUE(isOpen());
-    EXPECT_EQ(set.ICL, 80);
-}
-
 TEST_F(General1, ClosedByItsFrameItStoresNothingButHasBeenVisited) {
     type(general(), "txtTitle1", "gone");
     general().close();
@@ -193,20 +184,6 @@ TEST_F(General1, KeepsTheDataSetOfItsLoad) {
     click(general(), "cmdOk");
     EXPECT_EQ(store.layered[2].TITLE, "Road 7");
     EXPECT_EQ(set.TITLE, "");
-}
-
-TEST_F(General1, PrintsItsSeventeenParagraphs) {
-    click(general(), "cmdPrint");
-    ASSERT_EQ(printer.jobs.size(), 2U);
-    EXPECT_EQ(printer.jobs[0].size, 10);
-    int paragraphs = 0;
-    for (const auto& job : printer.jobs) {
-        for (const std::string& line : job.lines) {
-            const std::string number = "(" + std::to_string(paragraphs + 1) + ")";
-            if (line.starts_with(std::string(11, ' ') + number)) ++paragraphs;
-        }
-    }
-    EXPECT_EQ(paragraphs, 17);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ BoardForm::BoardForm(const std::string& name, const std::string& thing, int coun
         const int row = rowsPerButton * ((n - 1) / buttonsPerRow), column = (n - 1) % buttonsPerRow;
         auto* button = new Button("cmd" + thing + number, "", this);
         button->setAccessibleName(QString::fromStdString(thing + " " + number));
-        button->setMinimumHeight(34);
+        button->setMinimumHeight(qMax(34, button->sizeHint().height()));
         button->onClick = [this, n] { button_Click(n); };
         grid->addWidget(button, row, column);
         grid->addWidget(new StatusLabel("lbl" + thing + number, "", this), row + 1, column, Qt::AlignHCenter);

@@ -229,7 +229,7 @@ void FlexGrid::placeCellBox() {
 
 void FlexGrid::keyPressEvent(QKeyEvent* event) {
     const int code = keyCode(*event);
-    const int letter = character(*event);
+    const int letter = code == 13 ? code : character(*event);
     event->accept();
     if (code == 27 || code == 45 || code == 46) {
         const int shift = shiftState(*event);

@@ -51,7 +51,8 @@ void InputForm::layOut(QLayout* body, const std::string& helpBox, const std::vec
         bottom->addWidget(button);
     }
     for (int i = 0; i < bottom->count(); ++i) {
-        if (QWidget* button = bottom->itemAt(i)->widget()) button->setMinimumSize(100, 30);
+        if (QWidget* button = bottom->itemAt(i)->widget())
+            button->setMinimumSize(button->sizeHint().expandedTo({100, 30}));
     }
 }
 

@@ -18,6 +18,7 @@ class FieldCaption : public Label {
     QSize sizeHint() const override {
         return Label::sizeHint() + QSize(fontMetrics().horizontalAdvance("MM"), 0);
     }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -50,16 +51,11 @@ Single toSingle(Double value) {
 }
 
 void storeText(const ValueField& field, const std::string& text) {
-    const auto number = [&] {
-        const Double value = Val(text);
-        if (!std::isfinite(value)) throw RunTimeError(Fault::Overflow);
-        return value;
-    };
     std::visit(Overloaded{
                    [&](std::string* to) { *to = text; },
-                   [&](Integer* to) { *to = ToInteger(number()); },
-                   [&](Single* to) { *to = toSingle(number()); },
-                   [&](auto* to) { *to = number(); },
+                   [&](Integer* to) { *to = ToInteger(Val(text)); },
+                   [&](Single* to) { *to = toSingle(Val(text)); },
+                   [&](auto* to) { *to = Val(text); },
                },
                field);
 }

@@ -23,13 +23,14 @@ using Eigen::MatrixXd;
 
 /// Bessel factors at a portion of nodes, weights and a J1(m a) included. Rows are radii, columns nodes.
 struct BesselTables {
-    MatrixXd j0;     // J0(m r)
-    MatrixXd j1byX;  // J1(m r)/(m r)
+    MatrixXd j0;                         // J0(m r)
+    MatrixXd j1byX;                      // J1(m r)/(m r)
+    MatrixXd absoluteJ0, absoluteJ1byX;  // their absolute values
 };
 
 BesselTables besselTables(const Nodes& nodes, double a, std::span<const double> radii) {
     const auto rows = static_cast<Index>(radii.size()), cols = static_cast<Index>(nodes.m.size());
-    BesselTables tables{MatrixXd(rows, cols), MatrixXd(rows, cols)};
+    BesselTables tables{MatrixXd(rows, cols), MatrixXd(rows, cols), {}, {}};
     for (Index j = 0; j < cols; ++j) {
         const double m = nodes.m[static_cast<std::size_t>(j)];
         const double weight = nodes.weight[static_cast<std::size_t>(j)] * a * bessel(m * a).j1;
@@ -40,6 +41,8 @@ BesselTables besselTables(const Nodes& nodes, double a, std::span<const double> 
             tables.j1byX(i, j) = weight * (x == 0 ? 0.5 : b.j1 / x);
         }
     }
+    tables.absoluteJ0 = tables.j0.cwiseAbs();
+    tables.absoluteJ1byX = tables.j1byX.cwiseAbs();
     return tables;
 }
 
@@ -123,9 +126,9 @@ Integration::Integration(const Structure& structure, double a, std::span<const d
     for (const Depth& depth : depths) {
         places_.push_back(findPlace(structure, depth));
         for (double r : radii)
-            closedForm_.push_back(places_.back().layer == 0
-                                      ? halfSpaceIntegrals(structure.layers[0].poisson, a, r, depth.z)
-                                      : AxisIntegrals{});
+            closedForm_.push_back(places_.back().layer == 0 ? halfSpaceIntegrals(structure.layers[0].poisson,
+                                                                                 a, r, places_.back().below)
+                                                            : AxisIntegrals{});
     }
 }
 
@@ -143,8 +146,8 @@ void Integration::add(const Nodes& nodes, const BesselTables& tables) {
     }
     sum0_.noalias() += tables.j0 * kernel0.transpose();
     sum1_.noalias() += tables.j1byX * kernel1.transpose();
-    change0_.noalias() += tables.j0.cwiseAbs() * kernel0.cwiseAbs().transpose();
-    change1_.noalias() += tables.j1byX.cwiseAbs() * kernel1.cwiseAbs().transpose();
+    change0_.noalias() += tables.absoluteJ0 * kernel0.cwiseAbs().transpose();
+    change1_.noalias() += tables.absoluteJ1byX * kernel1.cwiseAbs().transpose();
 }
 
 void Integration::endCycle() {

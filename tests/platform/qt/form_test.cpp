@@ -148,6 +148,23 @@ TEST_F(FormTest, OneFormOfAGroupIsOpenAndRefusingToCloseKeepsIt) {
     EXPECT_EQ(table.deletions, 2);
 }
 
+TEST_F(FormTest, TheProgramEndsWithItsLastFormButNotWhileOneGivesWayToAnother) {
+    const QObject here;
+    bool changed = false;
+    screens.load("frmOne")->Show();
+    QTimer::singleShot(0, &here, [&] {
+        screens.unload("frmOne");
+        screens.load("frmTable")->Show();
+    });
+    QTimer::singleShot(50, &here, [&] {
+        changed = true;
+        screens.unload("frmTable");
+    });
+    QTimer::singleShot(5000, &here, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_TRUE(changed);
+}
+
 TEST_F(FormTest, StatusWordsReachLoadedFormsOnly) {
     screens.done("frmOne", "lblNz");
     Form* form = screens.load("frmOne");

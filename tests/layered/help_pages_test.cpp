@@ -1,0 +1,30 @@
+// The help boxes of the layered forms as texts.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "text/pages.h"
+
+namespace {
+
+TEST(LayeredHelp, IsNumberedThroughoutAndFitsItsBox) {
+    const struct {
+        const char* page;
+        int paragraphs;
+    } pages[] = {
+        {"frm_bedform", 12},   {"frm_general1", 17},  {"frm_period_106", 3}, {"frm_period_119", 3},
+        {"frm_period_123", 3}, {"frm_period_225", 3}, {"frm_layer_112", 3},  {"frm_layer_118", 3},
+    };
+    for (const auto& [page, paragraphs] : pages) {
+        std::istringstream lines(textPage(page, "\n"));
+        int found = 0;
+        for (std::string line; std::getline(lines, line);) {
+            EXPECT_LE(line.size(), 75U) << page << ": " << line;
+            if (!line.starts_with('(')) continue;
+            EXPECT_TRUE(line.starts_with("(" + std::to_string(++found) + ")")) << page << ": " << line;
+        }
+        EXPECT_EQ(found, paragraphs) << page;
+    }
+}
+
+}  // namespace

@@ -1,0 +1,137 @@
+// From an empty machine to a plotted pavement: three layers under a tandem axle.
+#include "layered/layered_deck.h"
+#include "plots/layered_plot.h"
+#include "roads/road.h"
+#include "support/page_reading.h"
+
+namespace {
+
+class LayeredRoad : public Road {
+  protected:
+    /// The road of the README, up to the saved deck.
+    void enterThreeLayers() {
+        type("frmTOLMARK", "cmbDataPath", "");
+        front("frmTOLMARK").control<ComboBox>("cmbDataPath").setTextValue(directory.path());
+        front("frmTOLMARK").control<ComboBox>("cmbFileName").setTextValue("tandem");
+        click("frmTOLMARK", "cmdBedform");
+        choose("frmBEDFORM", "mnuNew");
+
+        click("frmBEDFORM", "mnuGeneral");
+        type("frmGeneral1", "txtTitle1", "Tandem axle on three layers");
+        type("frmGeneral1", "txtNz", "4");
+        picture("frmGeneral1", "general");
+        click("frmGeneral1", "cmdOk");
+        picture("frmBEDFORM", "bedform");
+
+        click("frmBEDFORM", "mnuZcoord");
+        enter("frmspreadb", {"0", "6", "6.001", "14.001"});
+        click("frmspreadb", "BtnRun");
+
+        click("frmBEDFORM", "mnuLayer");
+        enter("frmSpread2", {"6", ".35", "8", ".3", ".45"});
+        picture("frmSpread2", "layers");
+        click("frmSpread2", "BtnRun");
+
+        click("frmBEDFORM", "mnuModuli");
+        click("frmPeriod", "cmdPeriod1");
+        enter("frmspreadb", {"400000", "30000", "8000"});
+        click("frmspreadb", "BtnRun");
+        EXPECT_EQ(word("frmPeriod", "lblPeriod1"), "done");
+        click("frmPeriod", "cmdOk");
+
+        click("frmBEDFORM", "mnuLoad");
+        enter("frmSpread1", {"2", "4.5", "80", "13.5", "54", "3"});
+        enter("frmspreadb", {"0", "0", "0", "6.75", "27", "6.75"});
+        picture("frmspreadb", "points");
+        click("frmspreadb", "BtnRun");
+        click("frmSpread1", "BtnRun");
+    }
+
+    void saveAs(const std::string& name) {
+        dialogs.expectFile(FileAnswer{directory.path() + name, 1});
+        dialogs.expectBox("File with a filename of " + name + " has been saved");
+        click("frmBEDFORM", "cmdSaveAs");
+        click("frmBEDFORM", "cmdExit");
+        EXPECT_TRUE(dialogs.finished());
+    }
+};
+
+TEST_F(LayeredRoad, FromAnEmptyMachineToAPlottedPavement) {
+    enterThreeLayers();
+    for (const char* label : {"lblGeneral", "lblZcoord", "lblLayer", "lblModuli", "lblLoad1"}) {
+        EXPECT_EQ(word("frmBEDFORM", label), "done") << label;
+    }
+    saveAs("tandem.DAT");
+    EXPECT_EQ(directory.read("tandem.DAT"),
+              " 1  (1) NPROB\r\n"
+              "Tandem axle on three layers\r\n"
+              " 1  0  1  1  (3) MATL NDAMA NPY NLG\r\n"
+              " .001  (4) DEL\r\n"
+              " 3  4  80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"
+              "6 8  (6) TH\r\n"
+              ".35 .3 .45  (7) PR\r\n"
+              "0 6 6.001 14.001  (8) ZC\r\n"
+              " 1  (9) NBOND\r\n"
+              "400000 30000 8000  (11) E\r\n"
+              " 2   (13) LOAD\r\n"
+              " 4.5   80   (14) CR CP\r\n"
+              " 3   (19) NPT\r\n"
+              " 54   13.5  0 0 0 6.75 27 6.75  (20) XW YW XPT\r\n");
+
+    picture("frmTOLMARK", "main_screen");
+    click("frmTOLMARK", "cmdTolstrat");
+    ASSERT_TRUE(appears(directory.path() + "tandem.BED"));
+    BedReader results(directory.path() + "tandem.BED");
+    const auto bed = results.next();
+    ASSERT_TRUE(bed);
+    EXPECT_EQ(bed->TITLE, "Tandem axle on three layers");
+    EXPECT_EQ(bed->E[1][2], 30000);
+    EXPECT_EQ(bed->XPT[1][3], 27.F);
+    const std::string text = directory.read("tandem.TXT");
+    EXPECT_NE(text.find("Period 1, load group 1"), std::string::npos);
+
+    LayeredPlot plot(directory.path() + "tandem.BED");
+    const auto page = plot.next();
+    ASSERT_TRUE(page);
+    std::string texts;
+    for (const Written& written : textsOf(*page)) texts += written.text + "\n";
+    for (const char* expected : {"Tandem axle on three layers", "Contact Radius = 4.5 in.", "SUBGRADE",
+                                 "Tandem Spacing = 54 in.", "Problem No. 1  Period No. 1"}) {
+        EXPECT_NE(texts.find(expected), std::string::npos) << expected << "\n" << texts;
+    }
+    EXPECT_FALSE(plot.next());
+
+    dialogs.expectBox("Want to print on the printer?", Buttons::YesNo, Answer::Yes);
+    click("frmTOLMARK", "cmdBedplot");
+    EXPECT_TRUE(dialogs.finished());
+    ASSERT_EQ(notes.size(), 1U);
+    EXPECT_EQ(directory.read("print/print-001.pdf").substr(0, 5), "%PDF-");
+}
+
+TEST_F(LayeredRoad, AnOldDeckIsOpenedChangedAndSavedUnderItsName) {
+    enterThreeLayers();
+    saveAs("tandem.DAT");
+    const std::string before = directory.read("tandem.DAT");
+
+    click("frmTOLMARK", "cmdBedform");
+    dialogs.expectFile(FileAnswer{directory.path() + "tandem.DAT", 1});
+    choose("frmBEDFORM", "mnuOpen");
+    click("frmBEDFORM", "mnuModuli");
+    click("frmPeriod", "cmdPeriod1");
+    enter("frmspreadb", {"500000"});
+    click("frmspreadb", "BtnRun");
+    click("frmPeriod", "cmdOk");
+    dialogs.expectBox("You have not save the file.  Do you want to save the file?", Buttons::YesNoCancel,
+                      Answer::Yes);
+    dialogs.expectBox("File with a filename of " + directory.path() + "tandem.DAT has been saved");
+    click("frmBEDFORM", "cmdExit");
+
+    Store read;
+    ASSERT_EQ(readLayeredDeck(directory.path() + "tandem.DAT", read).outcome,
+              DeckReadResult::Outcome::Complete);
+    EXPECT_EQ(read.layered[1].EMOD[1][1].number(), 500000);
+    EXPECT_EQ(read.layered[1].EMOD[1][2].number(), 30000);
+    EXPECT_NE(directory.read("tandem.DAT"), before);
+}
+
+}  // namespace

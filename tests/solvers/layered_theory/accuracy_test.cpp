@@ -1,0 +1,170 @@
+// Responses against closed forms and against the second calculation of reference.h.
+#include <gtest/gtest.h>
+
+#include <boost/multiprecision/cpp_bin_float.hpp>
+#include <boost/multiprecision/eigen.hpp>
+
+#include "solvers/layered_theory/reference.h"
+
+namespace {
+
+using namespace layered_theory;
+
+AxisymmetricResult solveOne(const Structure& s, double a, double q, const std::vector<double>& radii,
+                            const std::vector<Depth>& depths, const Control& control = {}) {
+    return solveAxisymmetric({&s, 1}, a, q, radii, depths, control)[0];
+}
+
+/// Largest error, relative to the largest component of the same kind at the same place.
+double error(const AxisymmetricResponse& y, const AxisymmetricResponse& right) {
+    const auto worst = [](std::initializer_list<std::pair<double, double>> pairs) {
+        double size = 0, difference = 0;
+        for (const auto& [value, rightValue] : pairs) {
+            size = std::max(size, std::abs(rightValue));
+            const double d = std::abs(value - rightValue);
+            difference = d <= difference ? difference : d;  // keeps NaN
+        }
+        return difference == 0 ? 0 : difference / size;
+    };
+    return std::max(
+        {worst({{y.w, right.w}, {y.u, right.u}}),
+         worst({{y.srr, right.srr}, {y.stt, right.stt}, {y.szz, right.szz}, {y.srz, right.srz}}),
+         worst({{y.err, right.err}, {y.ett, right.ett}, {y.ezz, right.ezz}, {y.erz, right.erz}})});
+}
+
+struct Case {
+    const char* name;
+    Structure structure;
+    std::vector<double> radii, depths;  // in contact radii
+};
+void PrintTo(const Case& c, std::ostream* out) { *out << c.name; }
+
+Structure nineteenLayers() {
+    Structure s;
+    for (int i = 0; i < 19; ++i) {
+        s.layers.push_back({0.2 + 0.1 * (i % 3), i % 2 ? 1.0 : 1000.0, i % 4 ? 0.3 : 0.5});
+        if (i < 18) s.bonded.push_back(i % 5 != 2);
+    }
+    return s;
+}
+
+const std::vector<double> RADII{0, 1e-9, 1e-4, 0.3, 0.999, 1, 1.001, 2.5, 10};
+const std::vector<double> RADII_BUT_EDGE{0, 1e-9, 0.3, 0.999, 1.001, 10};
+
+// clang-format off
+const std::vector<Case> CASES{
+    {"halfSpace", {{{0, 1, 0.3}}, {}}, RADII, {0.01, 1, 30}},
+    {"halfSpaceIncompressible", {{{0, 1, 0.5}}, {}}, RADII, {0.1, 1}},
+    {"halfSpaceJustBelowSurface", {{{0, 1, 0.3}}, {}}, {0, 0.9999, 1, 1.0001}, {1e-4}},
+    {"halfSpaceSurface", {{{0, 1, 0.3}}, {}}, RADII_BUT_EDGE, {0}},
+    {"stiffOverSoft", {{{1, 1000, 0.3}, {0, 1, 0.4}}, {}}, RADII, {0.1, 1, 1.001, 10, 100}},
+    {"stiffOverSoftSurface", {{{1, 1000, 0.3}, {0, 1, 0.4}}, {}}, RADII_BUT_EDGE, {0}},
+    {"softOverStiff", {{{1, 1, 0.5}, {0, 1000, 0.2}}, {}}, RADII, {0.5, 1, 1.001}},
+    {"softOverStiffSurface", {{{1, 1, 0.5}, {0, 1000, 0.2}}, {}}, RADII_BUT_EDGE, {0}},
+    {"softBetweenStiff", {{{1, 1000, 0.3}, {1, 1, 0.5}, {0, 1000, 0.2}}, {false, true}}, RADII, {0.5, 1, 1.001, 2, 3}},
+    {"stiffBetweenSoftFrictionless", {{{1, 1, 0.3}, {1, 1000, 0.5}, {0, 1, 0.2}}, {false, false}}, RADII, {1, 1.001, 2, 3}},
+    {"thinStiffSurfaceLayer", {{{0.1, 1000, 0.3}, {1, 1, 0.5}, {0, 10, 0.2}}, {}}, {0, 1, 3}, {0.1, 0.11}},
+    {"thinSoftFrictionlessSurfaceLayer", {{{0.1, 1, 0.5}, {1, 1000, 0.3}, {0, 10, 0.2}}, {false, true}}, {0, 1, 3}, {0.1}},
+    {"thinLubricantUnderPlate", {{{1, 1000, 0.3}, {0.001, 0.01, 0.5}, {0, 1000, 0.4}}, {true, false}}, RADII, {1, 1.0005, 1.001, 2}},
+    {"auxeticLayers", {{{1, 10, -0.9}, {1, 1, -0.99}, {0, 10, -0.5}}, {}}, RADII, {1, 2, 3}},
+    {"farPoints", {{{1, 100, 0.3}, {1, 10, 0.5}, {0, 1, 0.4}}, {}}, {30, 100}, {0, 1, 100}},
+    {"nineteenLayers", nineteenLayers(), {0, 1, 5}, {0.2, 0.5, 3, 6}},
+};
+// clang-format on
+
+class Accuracy : public testing::TestWithParam<Case> {};
+
+TEST_P(Accuracy, againstSecondCalculation) {
+    const Case& c = GetParam();
+    const double a = 4.5, q = 80;  // not 1, so that a forgotten factor shows
+    Structure s = c.structure;
+    for (Layer& layer : s.layers) layer.thickness *= a;
+    std::vector<double> radii;
+    for (double r : c.radii) radii.push_back(r * a);
+    std::vector<Depth> depths;
+    for (double z : c.depths) depths.push_back({z * a});
+
+    const AxisymmetricResult result = solveOne(s, a, q, radii, depths);
+    EXPECT_TRUE(result.converged);
+    for (std::size_t k = 0; k < depths.size(); ++k) {
+        const std::vector<AxisymmetricResponse> right = reference::solve(s, a, q, radii, depths[k].z);
+        for (std::size_t i = 0; i < radii.size(); ++i)
+            EXPECT_LT(error(result.responses[i * depths.size() + k], right[i]), 1e-8)
+                << "r = " << c.radii[i] << " a, z = " << c.depths[k] << " a";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, Accuracy, testing::ValuesIn(CASES),
+                         [](const auto& info) { return info.param.name; });
+
+TEST(Tolerance, isFollowedDownwards) {
+    const Structure s{{{1, 1000, 0.3}, {0, 1, 0.4}}, {}};
+    const std::vector<double> radii{0, 1, 3};
+    const AxisymmetricResult result = solveOne(s, 1, 1, radii, {{1}}, {1e-8, 80});
+    const std::vector<AxisymmetricResponse> right = reference::solve(s, 1, 1, radii, 1);
+    for (std::size_t i = 0; i < radii.size(); ++i) EXPECT_LT(error(result.responses[i], right[i]), 1e-12);
+}
+
+// The second calculation itself, in 50 digits: its long double has enough of them for the hardest structure.
+TEST(Reference, holdsInFiftyDigits) {
+    using Wide = boost::multiprecision::number<boost::multiprecision::cpp_bin_float<50>,
+                                               boost::multiprecision::et_off>;
+    for (double m : {1e-5, 1e-2, 1.0, 10.0}) {
+        const auto narrow = reference::state<long double>(nineteenLayers(), m, 3, 9);
+        const auto wide = reference::state<Wide>(nineteenLayers(), Wide(m), 3, 9);
+        for (int i = 0; i < 4; ++i)
+            EXPECT_NEAR(static_cast<double>(narrow(i) / wide(i).convert_to<long double>()), 1, 1e-12)
+                << m << ' ' << i;
+    }
+}
+
+// Below the centre of a uniformly loaded circle (Love 1929; Foster and Ahlvin 1954).
+TEST(HalfSpace, axis) {
+    const double a = 6, q = 75, E = 10000;
+    for (double nu : {-0.5, 0.0, 0.35, 0.5}) {
+        for (double z : {0.0, 0.0001, 1.0, 6.0, 60.0, 600.0}) {
+            const AxisymmetricResponse y = solveOne({{{0, E, nu}}, {}}, a, q, {0}, {{z}}).responses[0];
+            const double R = std::hypot(a, z), c = z / R;
+            const double szz = q * (1 - c * c * c);
+            EXPECT_NEAR(y.szz, szz, 1e-9 * szz);
+            EXPECT_NEAR(y.srr, q / 2 * (1 + 2 * nu - 2 * (1 + nu) * c + c * c * c), 1e-9 * szz);
+            EXPECT_NEAR(y.srr, y.stt, 1e-12 * szz);
+            EXPECT_EQ(y.srz, 0);
+            const double w = q * (1 + nu) / E * (a * a / R + (1 - 2 * nu) * (R - z));
+            EXPECT_NEAR(y.w, w, 1e-9 * w);
+        }
+    }
+}
+
+// At the edge on the surface the discontinuous components are the mean of both sides; w is continuous.
+TEST(HalfSpace, edgeOnSurfaceIsMean) {
+    const Structure s{{{5, 100, 0.3}, {0, 10, 0.4}}, {}};
+    const double a = 3, step = 1e-7;
+    const auto y = solveOne(s, a, 1, {a - step, a, a * (1 + 1e-15), a + step}, {{0}}).responses;
+    for (const auto* edge : {&y[1], &y[2]}) {
+        EXPECT_NEAR(edge->szz, 0.5, 1e-9);
+        EXPECT_NEAR(edge->srr, (y[0].srr + y[3].srr) / 2, 1e-6);
+        EXPECT_NEAR(edge->ezz, (y[0].ezz + y[3].ezz) / 2, 1e-8);
+        EXPECT_NEAR(edge->w, (y[0].w + y[3].w) / 2, 1e-8);
+    }
+}
+
+// Interface pressure below the centre, nu = 0.5, h = a, from published tables (Fox 1948).
+TEST(TwoLayers, publishedInterfacePressures) {
+    const std::pair<double, double> table[] = {{1, 0.646}, {10, 0.292}, {100, 0.081}};
+    for (const auto& [ratio, pressure] : table)
+        EXPECT_NEAR(solveOne({{{1, ratio, 0.5}, {0, 1, 0.5}}, {}}, 1, 1, {0}, {{1}}).responses[0].szz,
+                    pressure, 0.0006);
+}
+
+TEST(EqualLayers, areHalfSpace) {
+    const std::vector<double> radii{0, 0.7, 1, 20};
+    const std::vector<Depth> depths{{0}, {0.03}, {0.1}, {0.1001}, {2.4}, {7}};
+    const auto split =
+        solveOne({{{0.1, 2, 0.4}, {0.3, 2, 0.4}, {2, 2, 0.4}, {0, 2, 0.4}}, {}}, 1, 1, radii, depths);
+    const auto whole = solveOne({{{0, 2, 0.4}}, {}}, 1, 1, radii, depths);
+    for (std::size_t i = 0; i < split.responses.size(); ++i)
+        EXPECT_LT(error(split.responses[i], whole.responses[i]), 1e-8) << i;
+}
+
+}  // namespace
