@@ -4,21 +4,12 @@
 #include "layered/frm_general1.h"
 #include "layered/frm_layer.h"
 #include "layered/frm_period.h"
-
-namespace {
-
-template <class AForm>
-void add(Program& program, const std::string& name, const std::string& group = "") {
-    program.screens.add(
-        name, [&program] { return std::make_unique<AForm>(program); }, group);
-}
-
-}  // namespace
+#include "store/frm_add.h"
 
 void addLayeredForms(Program& program) {
-    add<frmBEDFORM>(program, "frmBEDFORM");
-    add<frmGeneral1>(program, "frmGeneral1");
+    addForm<frmBEDFORM>(program, "frmBEDFORM");
+    addForm<frmGeneral1>(program, "frmGeneral1");
     // A board that is asked for again may be for another kind of table: it comes up anew.
-    add<frmPeriod>(program, "frmPeriod", "frmPeriod");
-    add<frmLayer>(program, "frmLayer", "frmLayer");
+    addForm<frmPeriod>(program, "frmPeriod", "frmPeriod");
+    addForm<frmLayer>(program, "frmLayer", "frmLayer");
 }
