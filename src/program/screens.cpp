@@ -4,6 +4,7 @@
 #include "layered/frm_layered.h"
 #include "platform/qt/form.h"
 #include "plots/frm_bedplot.h"
+#include "slab/frm_slab.h"
 #include "store/frm_tolmark.h"
 
 namespace {
@@ -18,6 +19,7 @@ Screens::Make make(Program& program) {
 void addScreens(Screens& screens, Program& program) {
     screens.add("frmTOLMARK", make<frmTOLMARK>(program));
     addLayeredForms(program);
+    addSlabForms(program);
     addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
 }

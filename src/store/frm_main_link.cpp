@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/qt/form.h"
 #include "store/frm_file_list.h"
+#include "store/frm_tolmark.h"
 #include "store/program.h"
 #include "store/store.h"
 
@@ -34,4 +35,8 @@ void refreshFileName(Program& program, const std::string& name) {
 
 void setFileName(Program& program, const std::string& name) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbFileName")) box->setTextValue(name);
+}
+
+void syncDataPath(Program& program) {
+    if (auto* main = dynamic_cast<frmTOLMARK*>(program.screens.loaded("frmTOLMARK"))) main->SyncDataPath();
 }

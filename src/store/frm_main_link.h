@@ -13,4 +13,6 @@ void setDataPath(Program& program, const std::string& directory);
 void offerDataPath(Program& program, const std::string& directory);
 /// Reads the list of data files again and shows `name` as the file name.
 void refreshFileName(Program& program, const std::string& name);
+/// Runs SyncDataPath of the main screen, which takes its data directory into the history.
+void syncDataPath(Program& program);
 void setFileName(Program& program, const std::string& name);

@@ -209,7 +209,9 @@ void FlexGrid::openCellBox(int row, int col, const std::string& text, int selSta
     scrollTo(model()->index(row - FixedRows, col - 1));
     box_.setTextValue(text);
     box_.setCursorPosition(selStart);
-    box_.setAccessibleName(shown(Text(0, col) + ", " + Text(0, 0) + " " + Text(row, 0)));
+    QStringList name = {shown(Text(0, col)), shown(Text(0, 0) + " " + Text(row, 0)).trimmed()};
+    name.removeAll("");  // a head or the name of a line may be blank
+    box_.setAccessibleName(name.join(", "));
     box_.show();
     placeCellBox();
     box_.setFocus();
