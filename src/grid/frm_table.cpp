@@ -32,39 +32,44 @@ FrmTable::FrmTable(Program& program, const TableForm& form)
     connectEvents();
 }
 
-/// The grid with what belongs to it, and the help text beside it or under it; the user can shift the border.
+/// The grid under its unit row, and the help text beside it or under it; the user can shift the border.
 void FrmTable::layOut() {
-    auto* table = new QWidget(this);
+    auto* table = new QWidget(&parts_);
     auto* tableColumn = new QVBoxLayout(table);
     tableColumn->setContentsMargins(0, 0, 0, 0);
     tableColumn->setSpacing(unitDistance);
     tableColumn->addWidget(&lblUnit);
     tableColumn->addWidget(&GridSpreadsheet, 1);
 
-    parts_.addWidget(table);
-    parts_.addWidget(&Text1);
+    auto* help = new QWidget(&parts_);
+    auto* helpColumn = new QVBoxLayout(help);
+    const int besideGrid = form_.helpBeside ? lblUnit.sizeHint().height() + unitDistance : 0;
+    helpColumn->setContentsMargins(0, besideGrid, 0, 0);
+    helpColumn->addWidget(&Text1);
+    Text1.setAccessibleName("Help");
+
     parts_.setChildrenCollapsible(false);
     parts_.setStretchFactor(form_.helpBeside ? 1 : 0, 1);
 
-    lblDelIns.setWordWrap(true);
-    lblDouble.setWordWrap(true);
     auto* hints = new QVBoxLayout;
     hints->addWidget(&lblDouble);
     hints->addWidget(&lblDelIns);
     auto* bottom = new QHBoxLayout;
+    bottom->setSpacing(12);
+    bottom->addWidget(&cmdPrint);
     bottom->addLayout(hints, 1);
     bottom->addWidget(&BtnRun);
-    bottom->addWidget(&cmdPrint);
+    for (Button* button : {&cmdPrint, &BtnRun})
+        button->setMinimumSize(button->sizeHint().expandedTo({100, 30}));
 
-    auto* all = new QVBoxLayout(this);
-    all->addWidget(&parts_, 1);
-    all->addLayout(bottom);
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(16, 12, 16, 12);
+    page->setSpacing(12);
+    page->addWidget(&parts_, 1);
+    page->addLayout(bottom);
 
-    Text1.setAccessibleName("Help");
-    setTabOrder(&GridSpreadsheet, &GridSpreadsheet.cellBox());
-    setTabOrder(&GridSpreadsheet.cellBox(), &BtnRun);
-    setTabOrder(&BtnRun, &cmdPrint);
-    setTabOrder(&cmdPrint, &Text1);
+    QWidget* const order[] = {&GridSpreadsheet, &GridSpreadsheet.cellBox(), &Text1, &cmdPrint, &BtnRun};
+    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void FrmTable::connectEvents() {

@@ -5,6 +5,7 @@
 
 #include "grid/table_engine.h"
 #include "grid/table_kinds.h"
+#include "layered/layered_rules.h"
 #include "store/store.h"
 
 namespace {
@@ -153,10 +154,9 @@ bool isGranular(Store&, const TablePlace&, int cols) { return cols == 3; }
 
 /// A reference temperature of one's own calls for the temperatures of the periods.
 void tellTemperature(Store& s, const TablePlace& p, int, TableOutcome& outcome) {
-    const auto reference = numberOf(TEMPREF(s, p, 1));
-    const bool usual = reference == 70.0 || reference == 21.1;
-    outcome.words.push_back(
-        {"frmVisco", "lbltemperature", usual ? StatusWord::Word::BlueDefault : StatusWord::Word::Input});
+    const auto word =
+        temperaturesNeedInput(layered(s, p)) ? StatusWord::Word::Input : StatusWord::Word::BlueDefault;
+    outcome.words.push_back({"frmVisco", "lbltemperature", word});
 }
 
 using Bad = TableTest::Bad;

@@ -4,6 +4,8 @@
 #include <QGridLayout>
 #include <QVBoxLayout>
 
+#include "grid/table_selectors.h"
+#include "layered/data_menus.h"
 #include "layered/layered_deck.h"
 #include "layered/layered_rules.h"
 #include "platform/files.h"
@@ -16,31 +18,7 @@ namespace {
 
 constexpr int dataSets = 5;
 
-/// A menu that leads to data of the current data set.
-struct DataMenu {
-    const char *menu, *caption, *label, *word, *hint;
-    bool (*wanted)(const LayeredSet& set);  ///< nullptr: always
-    const char* refusal;
-    void (*select)(Store& store, const LayeredSet& set);  ///< the shared selectors of its form
-    const char* form;
-};
-
 bool hasLayers(const LayeredSet& set) { return set.NL != 0; }
-
-void selectTable(Store& store, int TableKind, int GridCols, Single lines) {
-    store.TableKind = TableKind;
-    store.GridCols = static_cast<Integer>(GridCols);
-    store.TblLines = ToInteger(Double{lines});
-}
-
-/// A main table starts at its first line, whatever auxiliary table was open last.
-void selectMainTable(Store& store, int TableKind, int MainCols, Single lines) {
-    store.TableKind = TableKind;
-    store.MainCols = MainCols;
-    store.MainLines = ToInteger(Double{lines});
-    store.CurTopRow = 1;
-    store.CurGroup = 0;
-}
 
 const DataMenu dataMenus[] = {
     {"mnuGeneral", "&General", "lblGeneral", "input", "General information on key parameters for TOLSTRAT",

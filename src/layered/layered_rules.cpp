@@ -213,3 +213,10 @@ std::optional<std::string> ErrCheck1(Store& store) {
     }
     return std::nullopt;
 }
+
+bool timesNeedInput(const LayeredSet& set) { return set.NTYME != Variant(newTimes); }
+
+bool temperaturesNeedInput(const LayeredSet& set) {
+    const Variant& reference = set.VISLAY[1].TEMPREF;
+    return !reference.isNumeric() || (reference.number() != 70 && reference.number() != 21.1);
+}

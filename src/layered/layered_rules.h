@@ -36,3 +36,8 @@ using StatusRules = std::array<StatusRule, 5>;
 /// They differ in `lblZcoord`: NDAMA decides here, NZ there. Kept.
 extern const StatusRules colorCodeRules;
 extern const StatusRules generalRules;
+
+/// When the menu of viscoelastic layers asks for the times of the compliances, and for the temperatures of
+/// the periods: defaults stand for 11 times, and for a reference temperature of 70 F or 21.1 C of line 1.
+bool timesNeedInput(const LayeredSet& set);
+bool temperaturesNeedInput(const LayeredSet& set);

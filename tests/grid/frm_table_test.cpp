@@ -12,6 +12,7 @@
 #include "support/quiet_desktop.h"
 #include "support/recording_printer.h"
 #include "support/scripted_dialogs.h"
+#include "support/window_checks.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ class TableFormTest : public ::testing::Test {
     /// Opens a table as its menu does and leaves it in front, active.
     Form& open(int kind, const std::string& form, int lines, int cols) {
         store.TableKind = kind;
-        store.CurGroup = 0;
+        store.CurGroup = kind == 107 && form == "frmspreadb" ? 1 : 0;
         store.CurTopRow = 1;
         (form == "frmSpread1" ? store.MainLines : store.TblLines) = lines;
         if (form == "frmSpread1") {
@@ -375,18 +376,26 @@ TEST_F(TableFormTest, TheHelpTextIsPrintedAsItStands) {
     EXPECT_EQ(text.find("@include"), std::string::npos);
 }
 
-TEST_F(TableFormTest, FocusGoesRoundEverythingAndEachHasAName) {
-    Form& form = open(103, "frmspreadb", 2, 2);
-    std::string round;
-    for (int i = 0; i < 5; ++i) {
-        round += QApplication::focusWidget()->objectName().toStdString() + " ";
-        key(Qt::Key_Tab);
+TEST_F(TableFormTest, EveryTableIsWellMade) {
+    for (const TableEntry& entry : layeredTables()) {
+        for (Single NUNIT : {0.0F, 1.0F}) {
+            set().NUNIT = NUNIT;
+            set().LOADL[1].LOAD = entry.columns.size() == 1 ? 0 : 1;
+            Form& form = open(entry.kind, entry.form, 12, static_cast<int>(entry.columns.size()) + 1);
+            SCOPED_TRACE(form.caption());
+            expectWellMade(form);
+            FlexGrid& table = grid(form);
+            EXPECT_EQ(table.accessibleName(), form.windowTitle());
+            for (int col = 1; col < table.Cols(); ++col) {
+                const int head =
+                    table.fontMetrics().horizontalAdvance(QString::fromStdString(table.Text(0, col)));
+                EXPECT_GT(table.columnWidth(col - 1), head);
+            }
+        }
     }
-    EXPECT_EQ(round, "GridSpreadsheet BtnRun cmdPrint Text1 GridSpreadsheet ");
-    EXPECT_EQ(grid(form).accessibleName(), form.windowTitle());
-    grid(form).setFocus();
+    grid(front("frmspreadb")).setFocus();
     type("1");
-    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "ZC, Point No. 1");
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "TNLR, Load Group No. 1");
 }
 
 }  // namespace

@@ -27,7 +27,9 @@ TEST_P(LayeredWindows, AreWellMade) {
     const struct {
         const char* form;
         int TableKind;
-    } windows[] = {{"frmBEDFORM", 0}, {"frmGeneral1", 0}, {"frmPeriod", 106}, {"frmLayer", 112}};
+    } windows[] = {{"frmBEDFORM", 0}, {"frmGeneral1", 0}, {"frmPeriod", 106}, {"frmLayer", 112},
+                   {"frmNonlin", 0},  {"frmGenNon", 0},   {"frmGranular", 0}, {"frmClay", 0},
+                   {"frmVisco", 0},   {"frmGenvis", 0},   {"frmDamage1", 0}};
     for (const auto& window : windows) {
         SCOPED_TRACE(window.form);
         store.TableKind = window.TableKind;

@@ -14,6 +14,8 @@ TEST(LayeredHelp, IsNumberedThroughoutAndFitsItsBox) {
     } pages[] = {
         {"frm_bedform", 12},   {"frm_general1", 17},  {"frm_period_106", 3}, {"frm_period_119", 3},
         {"frm_period_123", 3}, {"frm_period_225", 3}, {"frm_layer_112", 3},  {"frm_layer_118", 3},
+        {"frm_nonlin", 6},     {"frm_gen_non", 10},   {"frm_granular", 5},   {"frm_clay", 7},
+        {"frm_visco", 7},      {"frm_genvis", 7},     {"frm_damage1", 9},
     };
     for (const auto& [page, paragraphs] : pages) {
         std::istringstream lines(textPage(page, "\n"));

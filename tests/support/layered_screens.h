@@ -53,8 +53,7 @@ class LayeredScreens : public ::testing::Test {
         store.FileName = "road";
         addLayeredForms(program);
         screens.add("frmTOLMARK", [this] { return std::make_unique<MainScreenStandIn>(store); });
-        for (const char* name :
-             {"frmspreadb", "frmSpread1", "frmSpread2", "frmNonlin", "frmVisco", "frmDamage1", "frmMohr"}) {
+        for (const char* name : {"frmspreadb", "frmSpread1", "frmSpread2", "frmMohr"}) {
             screens.add(name, [name] { return std::make_unique<BlankForm>(name); });
         }
         main = screens.load("frmTOLMARK");

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr float printedSize = 10;  // points, of all input forms
-
 /// "Print" with the first access key that no button of the form has.
 std::string printCaption(const Form& form) {
     QString taken;

@@ -30,6 +30,8 @@ class InputForm : public Form {
     void showMessage(const std::string& text);
     void cmdPrint_Click();
 
+    float printedSize = 10;  ///< points of the printed help box
+
   private:
     Dialogs& dialogs_;
     Printer& printer_;

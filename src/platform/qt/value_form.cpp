@@ -15,8 +15,9 @@ class FieldCaption : public Label {
   public:
     using Label::Label;
 
+    /// Blanks of the caption that set its name to the right need no room.
     QSize sizeHint() const override {
-        return Label::sizeHint() + QSize(fontMetrics().horizontalAdvance("MM"), 0);
+        return {fontMetrics().horizontalAdvance(text().simplified() + "MM"), Label::sizeHint().height()};
     }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -67,7 +68,7 @@ bool isText(const ValueField& field) { return std::holds_alternative<std::string
 ValueForm::ValueForm(const std::string& name, Dialogs& dialogs, Printer& printer)
     : InputForm(name, dialogs, printer) {}
 
-void ValueForm::build(std::vector<ValueRow> rows) {
+void ValueForm::build(std::vector<ValueRow> rows, const std::string& okButton) {
     rows_ = std::move(rows);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
@@ -91,7 +92,7 @@ void ValueForm::build(std::vector<ValueRow> rows) {
             grid->addWidget(box, line, boxColumn);
         }
     }
-    layOut(grid, "Text1", {{"cmdOk", "&OK", [this] { cmdOk_Click(); }}});
+    layOut(grid, "Text1", {{okButton, "&OK", [this] { cmdOk_Click(); }}});
 }
 
 void ValueForm::showFields() {

@@ -33,9 +33,9 @@ class ValueForm : public InputForm {
     ValueForm(const std::string& name, Dialogs& dialogs, Printer& printer);
 
   protected:
-    /// Makes the rows from top to bottom, the help box `Text1`, cmdOk and cmdPrint. The fields must outlive
-    /// the form. A mouse click empties a number's box, so that it need not be deleted first.
-    void build(std::vector<ValueRow> rows);
+    /// Makes the rows from top to bottom, the help box `Text1`, the OK button and cmdPrint. The fields must
+    /// outlive the form. A mouse click empties a number's box, so that it need not be deleted first.
+    void build(std::vector<ValueRow> rows, const std::string& okButton = "cmdOk");
     /// The fields' values into the boxes: texts as they stand, numbers in their shortest form.
     void showFields();
     /// Stores field by field. The first check that fails shows its message and ends it with false: what is

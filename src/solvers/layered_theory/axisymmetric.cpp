@@ -187,9 +187,11 @@ bool Integration::hasConverged(Index i, Index k) const {
 AxisIntegrals Integration::integrals(Index i, Index k) const {
     AxisIntegrals f = closedForm_[static_cast<std::size_t>(k * converged_.rows() + i)];
     f.w += sum0_(i, J0_ROWS * k + W_BY_M);
-    f.s += sum0_(i, J0_ROWS * k + S);
     f.spread += sum0_(i, J0_ROWS * k + U);
     f.hoop += sum1_(i, J1_ROWS * k + HOOP_U);
+    const Place& place = places_[static_cast<std::size_t>(k)];
+    if (place.layer == 0 && place.below == 0) return f;  // the load is in the half-space part: keep it exact
+    f.s += sum0_(i, J0_ROWS * k + S);
     f.t += radii_[static_cast<std::size_t>(i)] * sum1_(i, J1_ROWS * k + M_T);
     return f;
 }
@@ -210,11 +212,11 @@ AxisymmetricResponse Integration::response(Index i, Index k, double pressure) co
     y.srr = -pressure * (common + radial);  // from here on positive in compression
     y.stt = -pressure * (common + f.hoop);
     y.szz = -pressure * f.s;
-    y.srz = -pressure * f.t;
+    y.srz = 0 - pressure * f.t;  // 0 - x, so that no shear is 0, not -0
     y.err = -flexibility * radial;
     y.ett = -flexibility * f.hoop;
     y.ezz = -flexibility * vertical;
-    y.erz = -flexibility * f.t;
+    y.erz = 0 - flexibility * f.t;
     y.converged = converged_(i, k);
     return y;
 }

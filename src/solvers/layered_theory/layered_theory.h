@@ -56,8 +56,7 @@ struct Control {
     int maxCycles = 80;
 };
 
-// ---- One wheel ------------------------------------------------------------------------------------------
-
+/// Of one wheel, at a distance r from its axis and a depth.
 struct AxisymmetricResponse {
     double w, u;                ///< displacements
     double srr, stt, szz, srz;  ///< stresses: radial, hoop, vertical, shear
@@ -77,7 +76,7 @@ struct AxisymmetricResult {
 /// with the same points are best solved in one call.
 ///
 /// At the edge of the load on the surface (z = 0, r = a to 10 digits) the discontinuous components are the
-/// mean of both sides. The shear stress on the surface is 0.
+/// mean of both sides: szz is q inside, q/2 on, 0 outside the edge, exactly. srz on the surface is 0.
 ///
 /// Accuracy at the default Control: errors below 1e-8 of the largest displacement, stress or strain
 /// component at the place, measured against a wider and slower calculation for moduli from 1e-6 to 1e6 of
@@ -92,9 +91,6 @@ struct AxisymmetricResult {
 std::vector<AxisymmetricResult> solveAxisymmetric(std::span<const Structure> structures, double radius,
                                                   double pressure, std::span<const double> radii,
                                                   std::span<const Depth> depths, const Control& control = {});
-
-// ---- Any number of equal wheels
-// ----------------------------------------------------------------------------
 
 struct Position {
     double x, y;
@@ -113,6 +109,7 @@ struct Load {
     std::vector<Position> wheels;  ///< at least one
 };
 
+/// Of all wheels together, at a point and a depth.
 struct Response {
     double w;
     Tensor stress, strain;

@@ -4,6 +4,7 @@
 #include <boost/multiprecision/cpp_bin_float.hpp>
 #include <boost/multiprecision/eigen.hpp>
 
+#include "solvers/layered_theory/kernel.h"
 #include "solvers/layered_theory/reference.h"
 
 namespace {
@@ -48,7 +49,7 @@ Structure nineteenLayers() {
     return s;
 }
 
-const std::vector<double> RADII{0, 1e-9, 1e-4, 0.3, 0.999, 1, 1.001, 2.5, 10};
+const std::vector<double> RADII{0, 1e-9, 9e-4, 0.3, 0.999, 1, 1.001, 2.5, 10};
 const std::vector<double> RADII_BUT_EDGE{0, 1e-9, 0.3, 0.999, 1.001, 10};
 
 // clang-format off
@@ -105,16 +106,32 @@ TEST(Tolerance, isFollowedDownwards) {
     for (std::size_t i = 0; i < radii.size(); ++i) EXPECT_LT(error(result.responses[i], right[i]), 1e-12);
 }
 
+using Wide =
+    boost::multiprecision::number<boost::multiprecision::cpp_bin_float<50>, boost::multiprecision::et_off>;
+
 // The second calculation itself, in 50 digits: its long double has enough of them for the hardest structure.
 TEST(Reference, holdsInFiftyDigits) {
-    using Wide = boost::multiprecision::number<boost::multiprecision::cpp_bin_float<50>,
-                                               boost::multiprecision::et_off>;
     for (double m : {1e-5, 1e-2, 1.0, 10.0}) {
         const auto narrow = reference::state<long double>(nineteenLayers(), m, 3, 9);
         const auto wide = reference::state<Wide>(nineteenLayers(), Wide(m), 3, 9);
         for (int i = 0; i < 4; ++i)
             EXPECT_NEAR(static_cast<double>(narrow(i) / wide(i).convert_to<long double>()), 1, 1e-12)
                 << m << ' ' << i;
+    }
+}
+
+// A thin plate that slips on both sides is where four exponentials are worst told apart.
+TEST(Kernel, keepsItsDigitsInThinLayers) {
+    for (double h : {0.1, 1e-3, 1e-6}) {
+        const Structure s{{{1, 1, 0.3}, {h, 1000, 0.4}, {0, 1, 0.4}}, {false, false}};
+        Kernel kernel(s);
+        for (double m = 1e-6; m < 20; m *= 3) {
+            kernel.solve(m);
+            const State y = kernel.at({1, h / 2});
+            const auto right = reference::state<Wide>(s, Wide(m), 1 + h / 2, 1);
+            for (int i = 0; i < 3; ++i)
+                EXPECT_NEAR(y(i) / static_cast<double>(right(i)), 1, 1e-11) << h << ' ' << m << ' ' << i;
+        }
     }
 }
 
@@ -141,6 +158,8 @@ TEST(HalfSpace, edgeOnSurfaceIsMean) {
     const Structure s{{{5, 100, 0.3}, {0, 10, 0.4}}, {}};
     const double a = 3, step = 1e-7;
     const auto y = solveOne(s, a, 1, {a - step, a, a * (1 + 1e-15), a + step}, {{0}}).responses;
+    EXPECT_EQ(y[0].szz, 1);
+    EXPECT_EQ(y[3].szz, 0);
     for (const auto* edge : {&y[1], &y[2]}) {
         EXPECT_NEAR(edge->szz, 0.5, 1e-9);
         EXPECT_NEAR(edge->srr, (y[0].srr + y[3].srr) / 2, 1e-6);
