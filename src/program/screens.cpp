@@ -5,6 +5,9 @@
 #include "platform/qt/form.h"
 #include "plots/frm_bedplot.h"
 #include "store/frm_tolmark.h"
+#include "text/frm_editor.h"
+#include "text/frm_help1.h"
+#include "text/frm_sheet.h"
 
 namespace {
 
@@ -20,4 +23,7 @@ void addScreens(Screens& screens, Program& program) {
     addLayeredForms(program);
     addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+    screens.add("frmEditor", make<frmEditor>(program));
+    screens.add("frmHelp1", make<frmHelp1>(program));
+    addSheets(program);
 }

@@ -11,6 +11,7 @@ std::string textPage(const std::string& name, const std::string& lineEnd) {
     std::istringstream lines(page->second);
     std::string text;
     for (std::string line; std::getline(lines, line);) {
+        if (line.ends_with('\r')) line.pop_back();  // decks
         if (line.starts_with(include)) {
             text += textPage(line.substr(include.size()), lineEnd);
         } else {
