@@ -46,6 +46,21 @@ TEST(Manual, IsPlainTextThatFitsItsBoxAndItsPaper) {
     }
 }
 
+TEST(Manual, ShowsDecksInLinesThatFit) {
+    for (const auto& [name, text] : embeddedPages()) {
+        if (!name.starts_with("BED")) continue;
+        std::string shown;
+        for (const std::string& line : linesOf(textPage(name, "\n"))) {
+            EXPECT_LE(line.size(), 75U) << name << ": " << line;
+            shown += line + " ";
+        }
+        std::istringstream whole(text), pieces(shown);
+        for (std::string word, piece; whole >> word;) {
+            EXPECT_TRUE(pieces >> piece && piece == word) << name << ": " << word << " became " << piece;
+        }
+    }
+}
+
 TEST(Manual, PrintsEveryLineOfEveryPage) {
     for (const auto& [page, lines] : ownLines()) {
         RecordingPrinter printer;
