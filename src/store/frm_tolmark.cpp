@@ -92,6 +92,8 @@ void frmTOLMARK::buildHead(QBoxLayout& page) {
     Text1->setFont(font());
     Text1->setFrameShape(QFrame::NoFrame);
     Text1->viewport()->setAutoFillBackground(false);
+    Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    Text1->document()->setDocumentMargin(0);
     Text1->setFixedHeight(4 * fontMetrics().lineSpacing() + 12);
 
     auto* head = new QHBoxLayout;

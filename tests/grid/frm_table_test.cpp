@@ -204,6 +204,18 @@ TEST_F(TableFormTest, ClicksCommitIntoTheCellThatWasEdited) {
     EXPECT_EQ(word("frmBEDFORM", "lblLayer"), "done");
 }
 
+TEST_F(TableFormTest, AClickCommitsAlsoWhereTheWindowGetsNoFocusEvents) {
+    FlexGrid& table = grid(open(103, "frmspreadb", 3, 2));
+    type("8");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    click(table, 3, 1);
+    EXPECT_EQ(column(table, 1) + at(table), "8| 0| 0|3,1");
+    EXPECT_FALSE(table.cellBox().isVisible());
+}
+
 TEST_F(TableFormTest, LineKeysAlsoFromTheNumberPadAndNeverToTheClipboard) {
     for (int line = 1; line <= 3; ++line) set().ZC[line] = line;
     QApplication::clipboard()->setText("kept");

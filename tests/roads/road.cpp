@@ -3,6 +3,9 @@
 #include <QAction>
 #include <filesystem>
 
+#include "plots/layered_plot.h"
+#include "support/page_reading.h"
+
 Road::Road() {
     setDispatchDialogs(&dialogs);
     addScreens(screens, program);
@@ -52,6 +55,27 @@ void Road::picture(const std::string& form, const std::string& name) {
     EXPECT_TRUE(front(form).grab().save(folder + "/" + QString::fromStdString(name) + ".png"));
 }
 
-bool Road::appears(const std::string& path) {
-    return QTest::qWaitFor([&] { return std::filesystem::exists(path); }, 10000);
+std::string Road::solve(const std::string& name) {
+    const std::string stem = directory.path() + name;
+    click("frmTOLMARK", "cmdTolstrat");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(stem + ".BED"); }, 20000));
+    return directory.read(name + ".TXT");
+}
+
+std::vector<std::string> Road::plot(const std::string& name) {
+    LayeredPlot plot(directory.path() + name + ".BED");
+    std::vector<std::string> pages;
+    while (const auto page = plot.next()) {
+        pages.emplace_back();
+        for (const Written& written : textsOf(*page)) pages.back() += written.text + "\n";
+    }
+    for (std::size_t page = 1; page <= pages.size(); ++page) {
+        dialogs.expectBox("Want to print on the printer?", Buttons::YesNo,
+                          page == pages.size() ? Answer::Yes : Answer::No);
+    }
+    click("frmTOLMARK", "cmdBedplot");
+    EXPECT_TRUE(dialogs.finished());
+    EXPECT_EQ(notes.size(), 1U);
+    EXPECT_EQ(directory.read("print/print-001.pdf").substr(0, 5), "%PDF-");
+    return pages;
 }

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QProcess>
 #include <filesystem>
+#include <iostream>
 
 #include "platform/run_time_error.h"
 
@@ -11,6 +12,10 @@ BatchApplication::BatchApplication() {
     static char name[] = "tolmark";
     static char* argv[] = {name, nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Qt's remarks about the machine are not for the reader of a script's output.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+        if (type == QtFatalMsg || type == QtCriticalMsg) std::cerr << text.toStdString() << std::endl;
+    });
     application_ = std::make_unique<QGuiApplication>(argc, argv);
 }
 

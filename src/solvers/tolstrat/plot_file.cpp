@@ -88,13 +88,22 @@ void copyViscoelastic(const LayeredSet& set, BedProblem& bed) {
     }
 }
 
+/// The plot adds up thicknesses as Singles and marks a bottom as one only where its depth is exactly that.
+Single plottedDepth(const DamageLocation& location, const BedProblem& bed) {
+    if (location.kind == DamageKind::Top) return ToSingle(location.z);
+    Single depth = 0;
+    for (int i = 1; i <= location.layer; ++i) depth += bed.TH[i];
+    return depth;
+}
+
 void copyDamage(const LayeredSet& set, const std::vector<GroupDamage>& groups, const DamageSum& sum,
                 BedProblem& bed) {
     bed.NLBT = ToInteger(set.NLBT);
     bed.NLTC = ToInteger(set.NLTC);
     const auto locations = damageLocations(set);
     bed.NZ = static_cast<Integer>(locations.size());
-    for (int j = 1; j <= bed.NZ; ++j) bed.ZC[j] = ToSingle(locations[static_cast<std::size_t>(j - 1)].z);
+    for (int j = 1; j <= bed.NZ; ++j)
+        bed.ZC[j] = plottedDepth(locations[static_cast<std::size_t>(j - 1)], bed);
     for (const GroupDamage& group : groups) {
         bed.TNLR[group.group][group.period] = ToSingle(group.repetitions);
         for (int j = 1; j <= bed.NZ; ++j) {

@@ -110,6 +110,17 @@ TEST(Creep, MovingLoadOnAHalfSpaceAgreesWithTheConvolution) {
     }
 }
 
+TEST(Creep, TimesAreToldOfStationaryDataSetsOnly) {
+    const auto store = viscousHalfSpace(0, {.1, 1, 10}, {});
+    store->NPROB = 2;
+    store->layered[2] = threeLayerStore()->layered[1];
+    const Solved solved = solveStore(*store);
+    ASSERT_EQ(solved.outcome.status, SOLVED) << solved.outcome.errors;
+    EXPECT_EQ(rowsWhere(solved.responses, {{"set", 1}}).back().at("time"), "10");
+    EXPECT_EQ(rowsWhere(solved.responses, {{"set", 2}}).at(0).at("time"), "");
+    EXPECT_TRUE(rowsWhere(solved.moduli, {{"set", 2}}).empty());
+}
+
 TEST(Creep, SaysWhatASeriesCannotDo) {
     const auto store = viscousHalfSpace(.1, {.1, 1}, {});
     for (int n = 1; n <= 2; ++n) store->layered[1].CREEP[n][1] = 1e-6F, store->layered[1].CREEP[n][2] = 1e-4F;
