@@ -6,6 +6,9 @@
 #include "plots/frm_bedplot.h"
 #include "slab/frm_slab.h"
 #include "store/frm_tolmark.h"
+#include "text/frm_editor.h"
+#include "text/frm_help1.h"
+#include "text/frm_sheet.h"
 
 namespace {
 
@@ -22,4 +25,7 @@ void addScreens(Screens& screens, Program& program) {
     addSlabForms(program);
     addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+    screens.add("frmEditor", make<frmEditor>(program));
+    screens.add("frmHelp1", make<frmHelp1>(program));
+    addSheets(program);
 }

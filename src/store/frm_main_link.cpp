@@ -26,6 +26,12 @@ void offerDataPath(Program& program, const std::string& directory) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbDataPath")) box->insertListItem(directory, 0);
 }
 
+void appendDataPath(Program& program, const std::string& directory) {
+    ComboBox* box = boxOfMainScreen(program, "cmbDataPath");
+    if (!box || (box->listCount() > 0 && equalIgnoringCase(directory, box->listText(0)))) return;
+    box->addListItem(directory);
+}
+
 void refreshFileName(Program& program, const std::string& name) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbFileName")) {
         FillFileList(program.store.cmbDirectory, "*.dat", *box);
