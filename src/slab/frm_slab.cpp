@@ -11,15 +11,24 @@
 #include "slab/frm_solid.h"
 #include "store/frm_add.h"
 
+namespace {
+
+/// What is asked for again may be for another data set or another kind of table: it comes up anew.
+template <class AForm>
+void addAnew(Program& program, const std::string& name) {
+    addForm<AForm>(program, name, name);
+}
+
+}  // namespace
+
 void addSlabForms(Program& program) {
     addForm<frmPANFORM>(program, "frmPANFORM");
     addForm<frmGeneral>(program, "frmGeneral");
-    addForm<frmCurling>(program, "frmCurling");
-    addForm<frmSlabData>(program, "frmSlabData");
-    // The same board serves X and Y: asked for again, it comes up anew.
-    addForm<frmSlabs>(program, "frmSlabs", "frmSlabs");
-    addForm<frmSolid>(program, "frmSolid");
-    addForm<frmOptional>(program, "frmOptional");
-    addForm<frmDowel>(program, "frmDowel");
-    addForm<frmDamage>(program, "frmDamage");
+    addAnew<frmCurling>(program, "frmCurling");
+    addAnew<frmSlabData>(program, "frmSlabData");
+    addAnew<frmSlabs>(program, "frmSlabs");
+    addAnew<frmSolid>(program, "frmSolid");
+    addAnew<frmOptional>(program, "frmOptional");
+    addAnew<frmDowel>(program, "frmDowel");
+    addAnew<frmDamage>(program, "frmDamage");
 }

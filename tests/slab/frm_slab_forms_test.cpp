@@ -217,4 +217,15 @@ TEST_F(SlabForms, DamageAsksForWhatItsCriterionNeeds) {
     EXPECT_EQ(lbl("lblDamage"), "done");
 }
 
+TEST_F(SlabForms, AnotherDataSetBringsAFormUpAnew) {
+    store.slab[2] = set;
+    for (const char* name :
+         {"frmCurling", "frmSlabData", "frmSolid", "frmOptional", "frmDowel", "frmDamage"}) {
+        store.CurSlabDS = 1;
+        load(name);
+        store.CurSlabDS = 2;
+        EXPECT_TRUE(load(name).caption().ends_with("2")) << name;
+    }
+}
+
 }  // namespace
