@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include "store/store.h"
+#include "support/pictures.h"
 #include "support/quiet_desktop.h"
 #include "support/recording_printer.h"
 #include "support/scripted_dialogs.h"
@@ -409,8 +410,11 @@ TEST_F(TableFormTest, EveryTableIsWellMade) {
             Form& form = open(entry.kind, entry.form, entry.fixedLines ? 3 : 12, cols, groupOf(entry, cols));
             SCOPED_TRACE(form.caption());
             expectWellMade(form);
+            savePicture(form, std::string(entry.help) + (NUNIT ? "_si" : ""));
             FlexGrid& table = grid(form);
             EXPECT_EQ(table.accessibleName(), form.windowTitle());
+            const QVariant firstName = table.model()->headerData(0, Qt::Vertical);
+            EXPECT_EQ(firstName.toString().toStdString(), table.Text(1, 0)) << "also where it is blank";
             for (int col = 1; col < table.Cols(); ++col) {
                 const int head =
                     table.fontMetrics().horizontalAdvance(QString::fromStdString(table.Text(0, col)));

@@ -5,6 +5,7 @@
 
 #include "plots/layered_plot.h"
 #include "support/page_reading.h"
+#include "support/pictures.h"
 
 Road::Road() {
     setDispatchDialogs(&dialogs);
@@ -48,12 +49,7 @@ std::string Road::word(const std::string& form, const std::string& label) {
     return front(form).control<StatusLabel>(label).caption();
 }
 
-void Road::picture(const std::string& form, const std::string& name) {
-    const QString folder = qEnvironmentVariable("TOLMARK_PICTURES");
-    if (folder.isEmpty()) return;
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(front(form).grab().save(folder + "/" + QString::fromStdString(name) + ".png"));
-}
+void Road::picture(const std::string& form, const std::string& name) { savePicture(front(form), name); }
 
 std::string Road::solve(const std::string& name) {
     const std::string stem = directory.path() + name;

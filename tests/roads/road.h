@@ -34,7 +34,7 @@ class Road : public ::testing::Test {
     /// From the active cell of a table on: each text and Enter.
     void enter(const std::string& form, const std::vector<std::string>& cells);
     std::string word(const std::string& form, const std::string& label);
-    /// With TOLMARK_PICTURES set to a folder: the form as it looks now, as a PNG there.
+    /// As savePicture() has it.
     void picture(const std::string& form, const std::string& name);
     /// Solves the deck that the main screen names and waits for its plot file: the text of the results.
     std::string solve(const std::string& name);

@@ -1,4 +1,5 @@
 // Every window of the slab side, in both systems of units, at usual and large type.
+#include "support/pictures.h"
 #include "support/slab_screens.h"
 #include "support/window_checks.h"
 
@@ -33,6 +34,9 @@ TEST_P(SlabWindows, AreWellMade) {
             Form* form = screens.load(window.form);
             ASSERT_NE(form, nullptr);
             expectWellMade(*form);
+            const std::string kind = window.TableKind ? std::to_string(window.TableKind) : "";
+            savePicture(*form, window.form + kind + (NUNIT ? "_si" : "") + "_" +
+                                   std::to_string(GetParam()).substr(0, 3));
             screens.unload(window.form);
         }
     }

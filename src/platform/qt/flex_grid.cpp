@@ -128,6 +128,9 @@ void FlexGrid::setSize(int rows, int cols) {
         for (int col = row < before ? columnsBefore : 0; col < columnCount(); ++col)
             setItem(row, col, new QTableWidgetItem);
     }
+    // Where there is no text Qt shows a number.
+    for (int row = before; row < rowCount(); ++row) setText(row + FixedRows, 0, "");
+    for (int col = columnsBefore; col < columnCount(); ++col) setText(0, col + 1, "");
 }
 
 void FlexGrid::setColWidth(int col, int twips) {

@@ -78,7 +78,7 @@ void ValueForm::build(std::vector<ValueRow> rows, const std::string& okButton) {
     rows_ = std::move(rows);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(3);
     grid->setColumnStretch(restColumn, 1);  // captions stay near their boxes
     for (const ValueRow& row : rows_) {
         const int line = grid->rowCount();
