@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "store/deck_path.h"
 #include "store/frm_main_link.h"
+#include "store/frm_status_words.h"
 #include "store/store.h"
 #include "text/pages.h"
 
@@ -158,7 +159,7 @@ void frmBEDFORM::mnuNew_Click() {
         store_.SetVisits[n] = 0;
         setNewFileDefaults(store_.layered[n]);
     }
-    for (const StatusRule& rule : colorCodeRules) control<StatusLabel>(rule.label).blueDefault();
+    for (const auto& rule : colorCodeRules) control<StatusLabel>(rule.label).blueDefault();
 }
 
 /// After a cancelled dialog it goes on with the path that it has, so the earlier file is read again: kept.
@@ -222,11 +223,7 @@ void frmBEDFORM::optDataSet_Click(int n) {
     exists.setForeColor(StatusLabel::red);
 }
 
-void frmBEDFORM::ColorCode(int n) {
-    for (const StatusRule& rule : colorCodeRules) {
-        showStatus(control<StatusLabel>(rule.label), rule.needsInput(store_.layered[n]), false);
-    }
-}
+void frmBEDFORM::ColorCode(int n) { showStatusWords(*this, colorCodeRules, store_.layered[n]); }
 
 bool frmBEDFORM::errorFound() {
     const auto missing = ErrCheck1(store_);

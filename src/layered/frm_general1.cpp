@@ -1,7 +1,7 @@
 #include "layered/frm_general1.h"
 
 #include "layered/layered_rules.h"
-#include "platform/qt/menu_form.h"
+#include "store/frm_status_words.h"
 #include "store/store.h"
 #include "text/pages.h"
 
@@ -73,16 +73,8 @@ void frmGeneral1::Form_Load() {
 
 void frmGeneral1::cmdOk_Click() {
     if (!storeFields()) return;
-    showStatusWords();
+    if (Form* menu = program_.screens.loaded("frmBEDFORM")) showStatusWords(*menu, generalRules, set_);
     // Visits count over all data sets: only the one of the first visit gets these, others copy them.
     if (program_.store.NewFile == 1 && program_.store.GeneralVisits == 1) setUnitDefaults(set_);
     program_.screens.unload(name());
-}
-
-void frmGeneral1::showStatusWords() {
-    Form* menu = program_.screens.loaded("frmBEDFORM");
-    if (!menu) return;
-    for (const StatusRule& rule : generalRules) {
-        showStatus(menu->control<StatusLabel>(rule.label), rule.needsInput(set_), true);
-    }
 }

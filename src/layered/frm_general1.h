@@ -15,7 +15,6 @@ class frmGeneral1 : public ValueForm {
 
   private:
     void cmdOk_Click() override;
-    void showStatusWords();
 
     Program& program_;
     LayeredSet& set_;  ///< the data set that was current at load, whatever becomes current meanwhile

@@ -1,21 +1,19 @@
 #include "layered/layered_deck.h"
 
 #include "layered/layered_cards.h"
-#include "platform/run_time_error.h"
-#include "store/store.h"
+#include "store/deck.h"
 
 namespace {
 
-const CardTable<Store>& fileCards() {
+const Deck<LayeredSet>& layeredDeck() {
     using Set = Store;
-    static const CardTable<Store> table = {
+    static const CardTable<Store> fileCards = {
         {nullptr, {}, {{1, " (1) NPROB", {{Layout::Close, {CARD_FIELD("NPROB", s.NPROB)}}}}}}};
-    return table;
+    static const Deck<LayeredSet> deck = {
+        fileCards, layeredCards(), [](const Store& store) -> Double { return store.NPROB; },
+        [](Store& store, int n) -> LayeredSet& { return store.layered[n]; }};
+    return deck;
 }
-
-struct NotADeck {
-    int line;
-};
 
 /// Reads a data set of either format.
 class LayeredReader : public CardReader<LayeredSet> {
@@ -49,7 +47,8 @@ class LayeredReader : public CardReader<LayeredSet> {
             const bool granular = set().MATL == 2 || set().MATL == 4;
             if (oldFormat_ && granular && hooks_.oldFormatPHI) hooks_.oldFormatPHI(where_.set);
         }
-        if (card.number == 9 && !label().starts_with("(9)")) throw NotADeck{labelLine()};
+        if (card.number == 9 && !label().starts_with("(9)"))
+            throw NotADeck{labelLine(), "the label \"(9)\" is not there: this is no layered deck"};
     }
 
     const LayeredReadHooks& hooks_;
@@ -58,48 +57,19 @@ class LayeredReader : public CardReader<LayeredSet> {
 
 }  // namespace
 
-void saveLayeredDeck(const Store& store, ListWriter& out) {
-    DeckPlace where;
-    try {
-        CardWriter<Store>(out, store, where).walk(fileCards());
-        for (int set = 1; set <= store.NPROB; ++set) {
-            where = {set, 0, "", {}};
-            CardWriter<LayeredSet>(out, store.layered[set], where).walk(layeredCards());
-        }
-    } catch (const RunTimeError& error) {
-        throw RunTimeError(error.fault(), where.text());
-    }
-}
-
-void saveLayeredDeck(const Store& store, const std::string& path) {
-    ListWriter out(withDatExtension(path));
-    saveLayeredDeck(store, out);
-    out.close();
-}
+void saveLayeredDeck(const Store& store, ListWriter& out) { saveDeck(layeredDeck(), store, out); }
+void saveLayeredDeck(const Store& store, const std::string& path) { saveDeck(layeredDeck(), store, path); }
 
 DeckReadResult readLayeredDeck(ListReader& in, Store& store, const LayeredReadHooks& hooks) {
-    DeckPlace where;
-    try {
-        CardReader<Store>(in, store, where).walk(fileCards());
+    const auto countRead = [&] {
         if (hooks.nprobRead) hooks.nprobRead(store.NPROB);
-        for (int set = 1; set <= store.NPROB; ++set) {
-            where = {set, 0, "", {}};
-            LayeredReader(in, store.layered[set], where, hooks).walk(layeredCards());
-        }
-    } catch (const NotADeck& found) {
-        return {DeckReadResult::Outcome::NotADeck, where, found.line,
-                "the label \"(9)\" is not there: this is no layered deck"};
-    } catch (const RunTimeError& error) {
-        return failedRead(error, in, where);
-    }
-    return {};
+    };
+    return readDeck(layeredDeck(), in, store, countRead,
+                    [&](ListReader& from, LayeredSet& set, DeckPlace& where) {
+                        LayeredReader(from, set, where, hooks).walk(layeredCards());
+                    });
 }
 
 DeckReadResult readLayeredDeck(const std::string& path, Store& store, const LayeredReadHooks& hooks) {
-    try {
-        ListReader in(path);
-        return readLayeredDeck(in, store, hooks);
-    } catch (const RunTimeError& error) {
-        return {DeckReadResult::Outcome::Failed, {}, 0, error.what()};
-    }
+    return readDeckFile(path, [&](ListReader& in) { return readLayeredDeck(in, store, hooks); });
 }

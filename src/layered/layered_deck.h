@@ -10,14 +10,8 @@
 
 struct Store;
 
-/// Writes data sets 1 to `NPROB` of the store. A number field that holds another text is a TypeMismatch, a
-/// count beyond the store SubscriptOutOfRange; the error's text names field, card and data set. `out` is not
-/// closed.
+/// As saveDeck() has it.
 void saveLayeredDeck(const Store& store, ListWriter& out);
-
-/// Writes the deck to `path`, with ".DAT" behind it unless it ends so. A file that is there is replaced only
-/// by a whole deck: after any RunTimeError (those above, PathNotFound, PermissionDenied, DiskFull) it is as
-/// it was.
 void saveLayeredDeck(const Store& store, const std::string& path);
 
 /// What happens while a deck is read. Both may be empty.
@@ -28,8 +22,6 @@ struct LayeredReadHooks {
     std::function<void(int set)> oldFormatPHI;
 };
 
-/// Reads a deck into the store, value by value: what was read before a failure stays. Checks no count and no
-/// limit.
+/// As readDeck() has it.
 DeckReadResult readLayeredDeck(ListReader& in, Store& store, const LayeredReadHooks& hooks = {});
-/// The same from a file, resolved ignoring letter case. One that cannot be opened is a failure on line 0.
 DeckReadResult readLayeredDeck(const std::string& path, Store& store, const LayeredReadHooks& hooks = {});

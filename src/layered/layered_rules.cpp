@@ -94,22 +94,6 @@ void clearNonlinearAndViscous(LayeredSet& set) {
     }
 }
 
-// Loop bounds of the copying: counts are Single or Variant, and a text that is
-// no number, the empty one included, is a type mismatch.
-Double last(Single count) { return count; }
-Double last(const Variant& count) { return count.number(); }
-
-/// Elements 1 to `count`; an index beyond the store is a subscript out of range, with all before it copied.
-template <class Array, class Count>
-void copyTo(const Array& from, Array& to, const Count& count) {
-    for (int i = 1; i <= last(count); ++i) to[i] = from[i];
-}
-
-template <class Table, class Rows, class Columns>
-void copyTo(const Table& from, Table& to, const Rows& rows, const Columns& columns) {
-    for (int i = 1; i <= last(rows); ++i) copyTo(from[i], to[i], columns);
-}
-
 void copyCounted(const LayeredSet& from, LayeredSet& to) {
     to.TITLE = from.TITLE;
     for (const General field : GENL) to.*field = from.*field;
@@ -126,9 +110,9 @@ void copyCounted(const LayeredSet& from, LayeredSet& to) {
     copyTo(from.KGRAN, to.KGRAN, from.NOLAY);
     copyTo(from.EMOD, to.EMOD, from.NPY, from.NL);
     copyTo(from.TNLR, to.TNLR, from.NPY, from.NLG);
-    for (int g = 1; g <= last(from.NLG); ++g) {
+    for (int g = 1; g <= lastIndex(from.NLG); ++g) {
         to.LOADL[g] = from.LOADL[g];
-        for (int p = 1; p <= last(from.LOADL[g].NR); ++p) {
+        for (int p = 1; p <= lastIndex(from.LOADL[g].NR); ++p) {
             to.RC[g][p] = from.RC[g][p];
             to.PT[g][p] = from.PT[g][p];
         }
@@ -141,15 +125,7 @@ void copyCounted(const LayeredSet& from, LayeredSet& to) {
     copyTo(from.TEMP, to.TEMP, from.NPY, from.NVL);
 }
 
-/// An emptied cell is as missing as a zero.
-bool isZero(const Variant& value) { return value.isEmptyText() || value == Variant(0); }
-
-struct Missing {
-    bool (*holds)(const LayeredSet& set);
-    const char* message;
-};
-
-constexpr Missing missingData[] = {
+constexpr Missing<LayeredSet> missingData[] = {
     {[](const LayeredSet& set) { return isZero(set.LAYER[1].TH); },
      "You forgot to enter the layer thickness by clicking the Layer menu."},
     {[](const LayeredSet& set) { return set.MATL < 3 && isZero(set.EMOD[1][1]); },
@@ -167,20 +143,21 @@ constexpr Missing missingData[] = {
      "You forgot to enter the creep compliances by clicking the Viscoelastic\\Creep\\Layer No. menu."},
 };
 
-constexpr StatusRules statusRules(bool (*zcoordNeedsInput)(const LayeredSet&)) {
+/// Leaving the general information keeps a "done".
+constexpr StatusRules statusRules(bool (*zcoordNeedsInput)(const LayeredSet&), bool keepsDone) {
     return {{
-        {"lblNonlinear", isNonlinear},
-        {"lblViscoelastic", isViscous},
-        {"lblZcoord", zcoordNeedsInput},
-        {"lblInterface", [](const LayeredSet& set) { return set.NBOND == 0; }},
-        {"lblDamage", [](const LayeredSet& set) { return set.NDAMA != 0; }},
+        {"lblNonlinear", isNonlinear, keepsDone},
+        {"lblViscoelastic", isViscous, keepsDone},
+        {"lblZcoord", zcoordNeedsInput, keepsDone},
+        {"lblInterface", [](const LayeredSet& set) { return set.NBOND == 0; }, keepsDone},
+        {"lblDamage", [](const LayeredSet& set) { return set.NDAMA != 0; }, keepsDone},
     }};
 }
 
 }  // namespace
 
-const StatusRules colorCodeRules = statusRules([](const LayeredSet& set) { return set.NDAMA == 0; });
-const StatusRules generalRules = statusRules([](const LayeredSet& set) { return set.NZ != 0; });
+const StatusRules colorCodeRules = statusRules([](const LayeredSet& set) { return set.NDAMA == 0; }, false);
+const StatusRules generalRules = statusRules([](const LayeredSet& set) { return set.NZ != 0; }, true);
 
 void setNewFileDefaults(LayeredSet& set) {
     setGeneralDefaults(set);
@@ -208,7 +185,7 @@ void Initial(Store& store, int n) {
 
 std::optional<std::string> ErrCheck1(Store& store) {
     store.CurLayDS = 1;
-    for (const Missing& missing : missingData) {
+    for (const auto& missing : missingData) {
         if (missing.holds(store.layered[1])) return missing.message;
     }
     return std::nullopt;

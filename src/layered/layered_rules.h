@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "store/rules.h"
+
 struct LayeredSet;
 struct Store;
 
@@ -25,12 +27,7 @@ void Initial(Store& store, int n);
 /// 1 only and leaves it the current one, whatever the menu's buttons show: kept.
 std::optional<std::string> ErrCheck1(Store& store);
 
-/// A menu's status label and when it asks for input; otherwise its defaults stand.
-struct StatusRule {
-    const char* label;
-    bool (*needsInput)(const LayeredSet& set);
-};
-using StatusRules = std::array<StatusRule, 5>;
+using StatusRules = std::array<StatusRule<LayeredSet>, 5>;
 
 /// After a choice of data set and after reading a file, and the milder ones after the general information.
 /// They differ in `lblZcoord`: NDAMA decides here, NZ there. Kept.

@@ -215,8 +215,9 @@ class CardReader : public CardWalker<Set> {
     const std::string& label() const { return label_; }
     int labelLine() const { return labelLine_; }
 
-  private:
     ListReader& in_;
+
+  private:
     std::string label_;
     int labelLine_ = 0;
 };

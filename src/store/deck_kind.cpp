@@ -4,6 +4,7 @@
 
 #include "layered/layered_deck.h"
 #include "platform/run_time_error.h"
+#include "slab/slab_deck.h"
 #include "store/store.h"
 
 namespace {
@@ -29,6 +30,7 @@ DeckKind deckKind(const std::string& path) {
     if (label.starts_with("(3) MATL")) return DeckKind::Layered;
     if (label.starts_with("(3) NFOUND")) return DeckKind::Slab;
     const auto scratch = std::make_unique<Store>();
-    const bool complete = readLayeredDeck(path, *scratch).outcome == DeckReadResult::Outcome::Complete;
-    return complete ? DeckKind::Layered : DeckKind::Unknown;
+    const auto complete = DeckReadResult::Outcome::Complete;
+    if (readLayeredDeck(path, *scratch).outcome == complete) return DeckKind::Layered;
+    return readSlabDeck(path, *scratch).outcome == complete ? DeckKind::Slab : DeckKind::Unknown;
 }

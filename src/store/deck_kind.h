@@ -5,6 +5,6 @@
 
 enum class DeckKind { Layered, Slab, Unknown };
 
-/// Goes by the label of card (3); a deck whose labels are short is layered when it reads as a layered one.
+/// Goes by the label of card (3); a deck whose labels are short is of the side that can read it.
 /// FileNotFound, PermissionDenied.
 DeckKind deckKind(const std::string& path);

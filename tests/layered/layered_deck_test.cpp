@@ -8,6 +8,7 @@
 
 #include "platform/run_time_error.h"
 #include "store/deck_kind.h"
+#include "support/deck_texts.h"
 #include "support/layered_stores.h"
 #include "support/temporary_directory.h"
 
@@ -21,20 +22,6 @@ std::string deckOf(const Store& store) {
     saveLayeredDeck(store, out);
     out.close();
     return stream.str();
-}
-
-/// The deck from the line behind the label of card `from` to the end, with line ends as "|".
-std::string linesAfter(const std::string& deck, const std::string& label) {
-    std::string lines;
-    for (const char c : deck.substr(deck.find(label) + label.size() + 2))
-        if (c != '\r') lines += c == '\n' ? '|' : c;
-    return lines;
-}
-
-std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    const auto at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), by);
 }
 
 constexpr const char* threeLayerDeck =
@@ -185,24 +172,6 @@ TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
     EXPECT_NE(deckOf(*store).find(" .5  .6  (31) K2 K0\r\n"), std::string::npos);
 }
 
-/// Every value that a data set's cards hold, with its place.
-class Values : public CardWalker<LayeredSet> {
-  public:
-    static std::vector<std::pair<std::string, Variant>> of(LayeredSet& set) {
-        DeckPlace where;
-        Values values(set, where);
-        values.walk(layeredCards());
-        return values.found_;
-    }
-
-  private:
-    Values(LayeredSet& set, DeckPlace& where) : CardWalker(set, where) {}
-    void value(const Card<LayeredSet>&, const Run<LayeredSet>&, Cell cell) override {
-        found_.emplace_back(where_.text(), std::visit([](const auto* held) { return Variant(*held); }, cell));
-    }
-    std::vector<std::pair<std::string, Variant>> found_;
-};
-
 TEST(LayeredDeck, RandomStoresKeepTheirValues) {
     constexpr unsigned seed = 20240;
     RandomStores stores(seed);
@@ -215,7 +184,8 @@ TEST(LayeredDeck, RandomStoresKeepTheirValues) {
         EXPECT_TRUE(in.endOfFile() || in.nextItem().empty());
         ASSERT_EQ(read->NPROB, store->NPROB);
         for (int n = 1; n <= store->NPROB; ++n) {
-            const auto expected = Values::of(store->layered[n]), values = Values::of(read->layered[n]);
+            const auto expected = valuesOf(store->layered[n], layeredCards()),
+                       values = valuesOf(read->layered[n], layeredCards());
             ASSERT_EQ(values.size(), expected.size());
             for (std::size_t i = 0; i < values.size(); ++i) {
                 ASSERT_EQ(values[i].first, expected[i].first);
@@ -405,44 +375,6 @@ TEST(LayeredDeck, ADiskThatFillsUpAnywhereLeavesTheOldDeckWhole) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
     saveLayeredDeck(*store, folder.path() + "road.DAT");
     EXPECT_EQ(folder.read("road.DAT"), deckOf(*store));
-}
-
-/// Cuts the text, or doubles, drops, swaps or spoils some of its tokens.
-std::string mutated(const std::string& deck, RandomStores& random) {
-    std::vector<std::string> tokens;
-    std::istringstream stream(deck);
-    for (std::string token; stream >> token;)
-        tokens.push_back(token + (stream.peek() == '\r' ? "\r\n" : " "));
-    const auto any = [&] {
-        return static_cast<std::ptrdiff_t>(random.from(0, static_cast<int>(tokens.size()) - 1));
-    };
-    static const char* spoils[] = {"-1 ",  "0 ", "1E9 ", "1E39 ", "32768 ", "2.5 ",
-                                   "abc ", "\"", ",",    "\n",    "(9) ",   ""};
-    for (int times = random.from(1, 4); times > 0 && tokens.size() > 1; --times) {
-        const auto at = any();
-        const auto token = tokens.begin() + at;
-        switch (random.from(0, 4)) {
-            case 0:
-                tokens.erase(token + 1, tokens.end());
-                tokens.back().resize(
-                    static_cast<std::size_t>(random.from(0, static_cast<int>(token->size()))));
-                break;
-            case 1:
-                tokens.insert(token, std::string(*token));
-                break;
-            case 2:
-                tokens.erase(token);
-                break;
-            case 3:
-                std::swap(*token, tokens[static_cast<std::size_t>(any())]);
-                break;
-            default:
-                *token = spoils[random.from(0, 11)];
-        }
-    }
-    std::string text;
-    for (const auto& token : tokens) text += token;
-    return text;
 }
 
 TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {

@@ -210,7 +210,7 @@ TEST(MissingData, DependsOnTheMaterial) {
 
 std::string asking(const StatusRules& rules, const LayeredSet& set) {
     std::string labels;
-    for (const StatusRule& rule : rules) {
+    for (const auto& rule : rules) {
         if (rule.needsInput(set)) labels += std::string(rule.label).substr(3) + " ";
     }
     return labels;

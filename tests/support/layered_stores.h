@@ -3,11 +3,10 @@
 #pragma once
 
 #include <memory>
-#include <random>
-#include <vector>
 
 #include "layered/layered_cards.h"
 #include "store/store.h"
+#include "support/random_cells.h"
 
 /// Three layers under one wheel with one point; every field that its cards need, nothing else.
 inline std::unique_ptr<Store> threeLayerStore() {
@@ -34,9 +33,9 @@ inline std::unique_ptr<Store> threeLayerStore() {
     return store;
 }
 
-class RandomStores {
+class RandomStores : public RandomCells {
   public:
-    explicit RandomStores(unsigned seed) : random_(seed) {}
+    using RandomCells::RandomCells;
 
     std::unique_ptr<Store> next() {
         auto store = std::make_unique<Store>();
@@ -44,57 +43,9 @@ class RandomStores {
         for (int n = 1; n <= store->NPROB; ++n) fill(store->layered[n]);
         return store;
     }
-    int from(int least, int most) { return std::uniform_int_distribution<int>(least, most)(random_); }
 
   private:
-    /// At most six digits: such a number keeps its value through the seven digits of a Single.
-    Double someNumber() {
-        return ToDouble(std::to_string(from(-999999, 999999)) + "E" + std::to_string(from(-12, 6)));
-    }
-
-    Variant someCell() {
-        const Double value = someNumber();
-        switch (from(0, 4)) {
-            case 0:
-                return from(-20000, 20000);
-            case 1:
-                return static_cast<Single>(value);
-            case 2:
-                return numberText(value);
-            case 3:
-                return Variant(" " + std::to_string(from(0, 99)) + ". ");
-            default:
-                return value;
-        }
-    }
-    Variant someCount(int most) {
-        const int count = from(0, 3) == 0 ? from(0, most) : from(0, 3);
-        return from(0, 1) ? Variant(static_cast<Double>(count)) : Variant(std::to_string(count));
-    }
     Single count(int most) { return static_cast<Single>(someCount(most).number()); }
-
-    void randomize(Cell cell) {
-        if (auto* whole = std::get_if<Integer*>(&cell)) **whole = static_cast<Integer>(from(-32768, 32767));
-        if (auto* single = std::get_if<Single*>(&cell)) **single = static_cast<Single>(someNumber());
-        if (auto* variant = std::get_if<Variant*>(&cell)) **variant = someCell();
-    }
-
-    /// Every field of every card beyond the ones that steer, which fill() sets.
-    class Filler : public CardWalker<LayeredSet> {
-      public:
-        Filler(RandomStores& random, LayeredSet& set, DeckPlace& where)
-            : CardWalker(set, where), random_(random) {}
-
-      private:
-        void value(const Card<LayeredSet>&, const Run<LayeredSet>&, Cell cell) override {
-            static const std::vector<std::string> steering = {
-                "TITLE", "MATL", "NDAMA", "NPY",   "NLG", "NL",    "NZ",   "NBOND", "LOAD",
-                "NR",    "NPT",  "NOLAY", "NCLAY", "NVL", "NTYME", "NLBT", "NLTC"};
-            if (std::find(steering.begin(), steering.end(), where_.field) == steering.end())
-                random_.randomize(cell);
-        }
-        RandomStores& random_;
-    };
 
     void fill(LayeredSet& s) {
         s.TITLE = from(0, 5) == 0 ? "" : "Road " + std::to_string(from(1, 999)) + ": 5\" of \"mix\"; wet";
@@ -115,9 +66,8 @@ class RandomStores {
             s.LOADL[n].NR = someCount(25);
             s.NOLLAY[n].NCLAY = from(0, 1);
         }
-        DeckPlace where;
-        Filler(*this, s, where).walk(layeredCards());
+        randomizeOthers(s, layeredCards(),
+                        {"TITLE", "MATL", "NDAMA", "NPY", "NLG", "NL", "NZ", "NBOND", "LOAD", "NR", "NPT",
+                         "NOLAY", "NCLAY", "NVL", "NTYME", "NLBT", "NLTC"});
     }
-
-    std::mt19937 random_;
 };

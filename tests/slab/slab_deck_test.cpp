@@ -1,0 +1,378 @@
+#include "slab/slab_deck.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sstream>
+
+#include "platform/run_time_error.h"
+#include "store/deck_kind.h"
+#include "support/deck_texts.h"
+#include "support/slab_stores.h"
+#include "support/temporary_directory.h"
+
+namespace {
+
+using Outcome = DeckReadResult::Outcome;
+
+std::string deckOf(const Store& store) {
+    std::ostringstream stream;
+    ListWriter out(stream);
+    saveSlabDeck(store, out);
+    out.close();
+    return stream.str();
+}
+
+DeckReadResult read(const std::string& deck, Store& store) {
+    ListReader in = ListReader::fromText(deck);
+    return readSlabDeck(in, store);
+}
+
+constexpr const char* label6 =
+    "(6) NLAYER NNCK NOTCON NGAP NPRINT INPUT NBOND NTEMP NWT NCYCLE NAT1 NAT2 NSX NSY MDPO NUNIT UL TC CL";
+
+const std::string singleSlabDeck =
+    " 1  (1) NPROB\r\n"
+    "Single slab\r\n"
+    " 0  0  1  1  (3) NFOUND NDAMA NPY NLG\r\n"
+    " 1  0  (4) NSLAB NJOINT\r\n"
+    " 3   2   0   0   0   0   (5) NX NY JONO1 JONO2 JONO3 JONO4\r\n"
+    " 1  1  0  0  0  0  0  0  0  1  0  0  0  0  0  0  1  2  2 " +
+    std::string(label6) +
+    "\r\n"
+    " 0  150   0   500   0   .000005  .001  1  (7) TEMP GAMA(1) GAMA(2) PMR(1) PMR(2) CT DEL FMAX\r\n"
+    " 0   0   0   0   (8) F1(1) F1(2) F2(1) F2(2)\r\n"
+    " 0   60   120.5   0   72   (9) X's and then Y's\r\n"
+    " 8   .15   4000000   (10) T PR YM\r\n"
+    " 1   (12) NUDL\r\n"
+    " 0   (13) NCNF\r\n"
+    " 0   0   (14) NNMX NNMY\r\n"
+    " 1   0  10  0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ\r\n"
+    " 1   (22) FSAF\r\n"
+    " 0   100   (24) NAS SUBMOD\r\n";
+
+TEST(SlabDeck, WritesCardsToTheLetter) {
+    const auto store = singleSlabStore();
+    EXPECT_EQ(deckOf(*store), singleSlabDeck);
+
+    store->SlabNPROB = 2.0;  // everything from the title on comes twice
+    copyToDataSet2(*store);
+    store->slab[2].UL = 1;
+    store->slab[2].TC = 2;
+    store->slab[2].CL = 2;
+    EXPECT_EQ(deckOf(*store), replaced(singleSlabDeck, " 1  (1)", " 2  (1)") +
+                                  singleSlabDeck.substr(singleSlabDeck.find("Single")));
+}
+
+TEST(SlabDeck, EmptyListsKeepTheLabelsOfCardsThatAreAlwaysThere) {
+    const auto store = singleSlabStore();
+    SlabSet& s = store->slab[1];
+    s.NSLAB = 2;
+    s.SLAB[1].NX = s.SLAB[1].NY = 0;
+    s.NLAYER = s.NLG = s.NPY = 0;
+    s.NDAMA = 1;
+    EXPECT_EQ(linesAfter(deckOf(*store), "(8) F1(1) F1(2) F2(1) F2(2)"),
+              " (9) X's and then Y's| (9) X's and then Y's| (10) T PR YM| (12) NUDL| 0   (13) NCNF|"
+              " 0   0   (14) NNMX NNMY| 0   100   (24) NAS SUBMOD| 29000000  .3  (34) YMSB PRSB|");
+    s.NPY = 2;
+    EXPECT_TRUE(deckOf(*store).ends_with(" (37) TNLR\r\n (37) TNLR\r\n"));
+    const auto again = std::make_unique<Store>();
+    EXPECT_EQ(read(deckOf(*store), *again).sentence(), "");
+    EXPECT_EQ(again->slab[1].YMSB, Variant(2.9e7));
+}
+
+/// Two slabs with a joint, every list, two layers, damage.
+std::unique_ptr<Store> fullStore() {
+    auto store = singleSlabStore();
+    SlabSet& s = store->slab[1];
+    s.NSLAB = 2;
+    s.NJOINT = s.NDAMA = 1;
+    s.SLAB[2] = s.SLAB[1];
+    s.SLAB[1].JONO2 = s.SLAB[2].JONO1 = 1;
+    s.NLAYER = 2;
+    s.LAYER[2] = {4, .2F, 3.5E6F, 0, 0, 0, 0};
+    s.NLG = 2;
+    s.NUDL[2] = 0;
+    s.NAT1 = s.NAT2 = s.NPRINT = s.NSX = s.NSY = s.NNMX = s.NNMY = 1;
+    s.NCNF = 2;
+    s.NOTCON = s.NGAP = s.NAS = "1";
+    s.THICK1[1] = {1, 2.5};
+    s.THICK2[1] = {2.0, 3};
+    s.FORCE[1] = {1, 123456.789};
+    s.FORCE[2] = {2, -1e20};
+    s.MOMENTX[1] = {3, .5};
+    s.MOMENTY[1] = {4, -.25};
+    s.NODNC[1] = 5;
+    s.NP[1] = 6;
+    s.NODSX[1] = 1;
+    s.NODSY[1] = 2;
+    s.GAP[1] = {4, .125};
+    s.SUBGRADE[1] = {3, 50};
+    s.JOINT[1] = {.SPCON1 = 0,
+                  .SPCON2 = 0,
+                  .SCKV = 1500000,
+                  .BD = 1,
+                  .BS = 12,
+                  .WJ = .2,
+                  .GDC = 0,
+                  .NNAJ = 2,
+                  .BARNO = {}};
+    s.JOINT[1].BARNO[1] = .5;
+    s.TNLR[1][1] = 1000;
+    s.TNLR[1][2] = 2.76e17;
+    return store;
+}
+
+constexpr const char* lists =
+    " 1   2.5   (11) NT T| 2   3   (11) NT T| 1   0   (12) NUDL| 2   (13) NCNF| 1   1   (14) NNMX NNMY|"
+    " 1   0  10  0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ|"
+    " 1   123456.789   2  -1E+20   (16) NN FF| 3   .5   (16) NNX FMX| 4  -.25   (16) NNY FMY|"
+    " 5   (17) NODNC| 6   (18) NP| 1   (19) NODSX| 2   (20) NODSY| 4   .125   (21) NG CURL| 1   (22) FSAF|";
+constexpr const char* dowels =
+    " 29000000  .3  (34) YMSB PRSB|"
+    " 0   0   1500000   1   12   .2   0   2   (35) SPCON1 SPCON2 SCKV BD BS WJ GDC NNAJ| .5   0   (36) BARNO|"
+    " 1000   2.76E+17   (37) TNLR|";
+
+TEST(SlabDeck, ListsFoundationsJointsAndDamage) {
+    const auto store = fullStore();
+    SlabSet& s = store->slab[1];
+    const auto end = [&] { return linesAfter(deckOf(*store), "(10) T PR YM"); };
+    EXPECT_NE(deckOf(*store).find("\r\n 8   .15   4000000   4   .2   3500000   (10) T PR YM\r\n"),
+              std::string::npos);
+    EXPECT_EQ(end(), std::string(lists) + "1  100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
+    s.NFOUND = 3;  // only 1 and 2 are told apart
+    EXPECT_EQ(end(), std::string(lists) + "1  100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
+    s.NFOUND = 1;
+    s.YMS = 7500;
+    s.PRS = .45;
+    EXPECT_EQ(end(), std::string(lists) + " 7500   .45   (28) YMS PRS|" + dowels);
+    s.NFOUND = 2;
+    const struct {
+        int NL;
+        const char* cards;
+    } rows[] = {{0, " 0   30   (30) NL MAXIC|"},
+                {1, " 1   30   (30) NL MAXIC| 20000   (32) E| .4   (33) PRBF|"},
+                {2, " 2   30   (30) NL MAXIC| 6   (31) TH| 20000   0   (32) E| .4   0   (33) PRBF|"}};
+    s.FOUNDATION[1] = {6, 20000, .4};
+    for (const auto& row : rows) {
+        s.NL = row.NL;
+        EXPECT_EQ(end(), std::string(lists) + row.cards + dowels);
+    }
+}
+
+TEST(SlabDeck, StatusFollowsFromTheRestOfTheDeck) {
+    const auto store = singleSlabStore();
+    SlabSet& s = store->slab[1];
+    const struct {
+        Integer NUDL, NNMY;
+        Variant NTEMP, NCYCLE;
+        int UL, TC, CL;
+    } rows[] = {{1, 0, 0, 1, 1, 2, 2}, {0, 1, 0, 1, 2, 2, 1}, {0, 0, 1, 1, 2, 1, 2}, {1, 0, 0, 10, 1, 1, 2}};
+    for (const auto& row : rows) {
+        s.NUDL[1] = row.NUDL;
+        s.NNMY = row.NNMY;
+        s.NTEMP = row.NTEMP;
+        s.NCYCLE = row.NCYCLE;
+        s.UL = "9";
+        s.TC = 9;
+        s.CL = 9.0;
+        const auto again = std::make_unique<Store>();
+        ASSERT_EQ(read(deckOf(*store), *again).sentence(), "");
+        EXPECT_EQ(again->slab[1].UL, Variant(row.UL));
+        EXPECT_EQ(again->slab[1].TC, row.TC);
+        EXPECT_EQ(again->slab[1].CL, Variant(row.CL));
+    }
+}
+
+/// Rounds of the property tests: a few hundred, or as many as the environment asks for.
+int rounds(int usually) {
+    const char* wanted = std::getenv("TOLMARK_LONG_RUN");
+    return wanted ? std::atoi(wanted) : usually;
+}
+
+TEST(SlabDeck, RandomStoresKeepTheirValues) {
+    constexpr unsigned seed = 30531;
+    RandomSlabStores stores(seed);
+    for (int round = 0; round < rounds(300); ++round) {
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
+        const auto store = stores.next();
+        ListReader in = ListReader::fromText(deckOf(*store));
+        const auto again = std::make_unique<Store>();
+        ASSERT_EQ(readSlabDeck(in, *again).sentence(), "");
+        EXPECT_TRUE(in.endOfFile() || in.nextItem().empty());
+        ASSERT_EQ(again->SlabNPROB, store->SlabNPROB);
+        for (int n = 1; n <= store->SlabNPROB.number(); ++n) {
+            const auto expected = valuesOf(store->slab[n], slabCards()),
+                       values = valuesOf(again->slab[n], slabCards());
+            ASSERT_EQ(values.size(), expected.size());
+            for (std::size_t i = 0; i < values.size(); ++i) {
+                ASSERT_EQ(values[i].first, expected[i].first);
+                ASSERT_EQ(values[i].second, expected[i].second) << values[i].first;
+            }
+        }
+        const std::string text = deckOf(*again);  // texts have become numbers: from here on it stays
+        const auto third = std::make_unique<Store>();
+        ASSERT_EQ(read(text, *third).outcome, Outcome::Complete);
+        ASSERT_EQ(deckOf(*third), text);
+    }
+}
+
+TEST(SlabDeck, SpoiledDecksNeverBreakTheReader) {
+    constexpr unsigned seed = 815;
+    RandomSlabStores random(seed);
+    int outcomes[3] = {};
+    for (int round = 0; round < rounds(300); ++round) {
+        SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
+        const auto store = random.next();
+        const std::string deck = mutated(deckOf(*store), random);
+        DeckReadResult result;
+        ASSERT_NO_THROW(result = read(deck, *store));
+        ASSERT_EQ(result.sentence().empty(), result.outcome == Outcome::Complete);
+        ++outcomes[static_cast<int>(result.outcome)];
+    }
+    for (const int times : outcomes) EXPECT_GT(times, 0);
+}
+
+/// The full deck as the middle generation wrote it: a system of units, no status fields.
+std::string middleDeck(const std::string& deck) {
+    return replaced(deck, "  1  1  1 " + std::string(label6),
+                    "  (6) NLAYER NNCK NOTCON NGAP NPRINT INPUT NBOND NTEMP NWT NCYCLE NAT1 NAT2 NSX NSY "
+                    "MDPO NUNIT");
+}
+
+TEST(SlabDeck, MiddleGenerationHasUnitsButNoStatus) {
+    const auto store = fullStore();
+    SlabSet& s = store->slab[1];
+    s.NUNIT = s.TC = 1;  // the status that the deck does not have, and that is computed
+    s.NTEMP = s.CL = 1;
+    s.NOTCON = s.NGAP = s.NAS = 1;
+    s.AREA[1][1].XL2 = 10;
+    const std::string deck = deckOf(*store);
+    const auto again = std::make_unique<Store>();
+    ASSERT_EQ(read(middleDeck(deck), *again).sentence(), "");
+    EXPECT_EQ(deckOf(*again), deck);
+}
+
+/// One slab and two load groups, as the oldest decks have them.
+const std::string oldDeck =
+    " 1  (1)\r\n"
+    "Old slab\r\n"
+    " 0  0  1  2  (3)\r\n"
+    " 1  0  (4)  \r\n"
+    " 2  2  0  0  0  0  (5)\r\n"
+    " 1  1  0  0  0  0  0  0  0  1  0  0  0  0  0  (6)\r\n"
+    " 0  .0078125  .0234375  0  0  .000005  .001  1  (7)\r\n"
+    " 0  0  0  0  (8)\r\n"
+    " 0  60  0  72  (9)\r\n"
+    " 8  .15  4000000  (10)\r\n"
+    " 1  0  (12)\r\n"
+    " 2  7  (13)\r\n"
+    " 1  0  10  0  12  80  (15)\r\n"
+    " 1  1000  2  2000  (16)\r\n"
+    " 1  (22)\r\n"
+    " 0  100  (24)\r\n";
+
+TEST(SlabDeck, OldestGenerationDiffersInThreePlaces) {
+    const auto store = std::make_unique<Store>();
+    SlabSet& s = store->slab[1];
+    s.NUNIT = 1;
+    s.NNMY = 0;
+    ASSERT_EQ(read(oldDeck, *store).sentence(), "");
+    EXPECT_EQ(s.NUNIT, 0);
+    EXPECT_EQ(s.NCNF, 2);
+    EXPECT_EQ(s.NNMX, 7) << "card (13) has one number per load group";
+    EXPECT_EQ(s.FORCE[2].FF, 2000);
+    EXPECT_EQ(s.LAYER[1].GAMA, 14) << "13.5 to the even neighbour";
+    EXPECT_EQ(s.LAYER[2].GAMA, 40) << "40.5 likewise";
+    EXPECT_EQ(s.UL, Variant(1));
+    EXPECT_EQ(s.TC, 2);
+    EXPECT_EQ(s.CL, Variant(1));
+    EXPECT_NE(deckOf(*store).find(" 0  0  1  2  1 " + std::string(label6) + "\r\n 0  14   40   0"),
+              std::string::npos);
+
+    const std::string deck = oldDeck;
+    const struct {
+        std::string text;
+        const char* sentence;
+    } rows[] = {
+        {replaced(replaced(replaced(deck, " 0  0  1  2  (3)", " 0  0  1  4  (3)"), " 1  0  (12)",
+                           " 1  0  0  0  (12)"),
+                  " 2  7  (13)", " 2  7  8  9  (13)"),
+         "line 12: NCNF(4), card (13), data set 1: more than a data file can hold"},
+        {replaced(deck, ".0234375", "150"),
+         "line 13: GAMA(2), card (13), data set 1: the value is out of range"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(read(row.text, *store).sentence(), row.sentence);
+    EXPECT_EQ(s.LAYER[1].GAMA, 14) << "converted in front of the one that failed";
+
+    // Without forces the moments' counts bring no card either.
+    std::string none =
+        replaced(replaced(deck, " 2  7  (13)", " 0  7  (13)"), " 1  1000  2  2000  (16)\r\n", "");
+    EXPECT_EQ(read(none, *store).sentence(), "");
+}
+
+TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
+    const std::string& deck = singleSlabDeck;
+    const struct {
+        std::string text;
+        Outcome outcome;
+        const char* sentence;
+    } rows[] = {
+        {replaced(deck, "(9) X's", "9 X's"), Outcome::NotADeck,
+         "line 9: card (9), data set 1: the label \"(9)\" is not there: this is no slab deck"},
+        {replaced(deck, " 8   .15", " 8   x"), Outcome::Failed,
+         "line 10: PR(1), card (10), data set 1: \"x\" is no number"},
+        {replaced(deck, " 3   2   0", " 3   40000   0"), Outcome::Failed,
+         "line 5: NY(1), card (5), data set 1: the value is out of range"},
+        {replaced(deck, " 3   2   0", " 26   2   0"), Outcome::Failed,
+         "line 9: X(1, 6), card (9), data set 1: \"(9)\" is no number"},
+        {deck.substr(0, deck.find("   (22)")), Outcome::Failed,
+         "line 15: card (22), data set 1: the file ends here"},
+        {replaced(deck, " 1  (1)", " 3  (1)") + deck.substr(deck.find("Single")) + "T\r\n", Outcome::Failed,
+         "line 32: data set 3: more than a data file can hold"},
+        {replaced(deck, "Single slab", "Single, slab"), Outcome::Failed,
+         "line 2: NFOUND, card (3), data set 1: \"slab\" is no number"},
+        {"", Outcome::Failed, "line 1: NPROB, card (1): the file ends here"},
+    };
+    for (const auto& row : rows) {
+        const auto store = std::make_unique<Store>();
+        const DeckReadResult result = read(row.text, *store);
+        EXPECT_EQ(result.outcome, row.outcome) << row.sentence;
+        EXPECT_EQ(result.sentence(), row.sentence);
+    }
+}
+
+TEST(SlabDeck, FilesAreWrittenWholeAndFoundIgnoringCase) {
+    TemporaryDirectory folder;
+    folder.write("slab.dat", "old");
+    const auto store = singleSlabStore();
+    store->slab[1].NPRINT = 200;
+    try {
+        saveSlabDeck(*store, folder.path() + "slab");
+        ADD_FAILURE() << "more nodes than the store has";
+    } catch (const RunTimeError& error) {
+        EXPECT_EQ(error.fault(), Fault::SubscriptOutOfRange);
+        EXPECT_TRUE(std::string(error.what()).ends_with("NP(121), card (18), data set 1")) << error.what();
+    }
+    EXPECT_EQ(folder.read("slab.dat"), "old");
+    store->slab[1].NPRINT = 0;
+    saveSlabDeck(*store, folder.path() + "slab");
+    EXPECT_EQ(folder.read("slab.dat"), singleSlabDeck);
+    EXPECT_EQ(readSlabDeck(folder.path() + "SLAB.DAT", *store).outcome, Outcome::Complete);
+    EXPECT_EQ(readSlabDeck(folder.path() + "none.DAT", *store).outcome, Outcome::Failed);
+}
+
+TEST(SlabDeck, ItsKindIsToldInEveryGeneration) {
+    const auto store = fullStore();
+    store->slab[1].TC = 1;
+    store->slab[1].CL = 1;
+    TemporaryDirectory folder;
+    for (const std::string& deck : {deckOf(*store), middleDeck(deckOf(*store)), oldDeck}) {
+        folder.write("deck.DAT", deck);
+        EXPECT_EQ(deckKind(folder.path() + "deck.DAT"), DeckKind::Slab) << deck;
+    }
+    folder.write("deck.DAT", replaced(oldDeck, "(9)", "(8)"));
+    EXPECT_EQ(deckKind(folder.path() + "deck.DAT"), DeckKind::Unknown);
+}
+
+}  // namespace

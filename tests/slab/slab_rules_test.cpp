@@ -1,0 +1,256 @@
+#include "slab/slab_rules.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/run_time_error.h"
+#include "slab/slab_deck.h"
+#include "support/slab_stores.h"
+
+namespace {
+
+/// Every value of the set's cards and all that a new file clears or leaves.
+void fillEverything(SlabSet& s) {
+    RandomSlabStores stores(7);
+    s = stores.next()->slab[1];
+    s.NUDL[7] = s.NUDL[8] = 5;
+    s.AREA[7][24].QQ = s.AREA[8][1].QQ = 5;
+    s.TNLR[12][7] = s.TNLR[12][8] = 5;
+    s.SLAB[6].X[15] = s.SLAB[6].Y[15] = s.SLAB[6].X[16] = s.SLAB[6].Y[16] = 5;
+    s.SLAB[6].JONO4 = 5;
+    s.JOINT[7].NNAJ = 5;
+    s.JOINT[7].BARNO[1] = s.JOINT[7].BARNO[15] = 5;
+    s.FSAF[12] = 5;
+    s.NCNF = s.NNMX = s.NNMY = 5;
+    s.FORCE[120].FF = s.MOMENTX[120].FMX = s.MOMENTY[120].FMY = 5;
+    s.NODSX[50] = s.NP[120] = 5;
+    s.FOUNDATION[6].E = 5;
+}
+
+TEST(SlabNewFile, SetsAndClearsAsFarAsItDoes) {
+    SlabSet s;
+    fillEverything(s);
+    setNewFileDefaults(s);
+    EXPECT_EQ(s.UL, Variant(1));
+    EXPECT_EQ(s.TC, 2);
+    EXPECT_EQ(s.CL, Variant(2));
+    EXPECT_EQ(s.TITLE, "");
+    for (const Integer one : {s.NPY, s.NLG, s.NLAYER, s.NSLAB, s.NNCK}) EXPECT_EQ(one, 1);
+    for (const Integer zero :
+         {s.NFOUND, s.NDAMA, s.NBOND, s.NJOINT, s.NPRINT, s.NSX, s.NSY, s.MDPO, s.NUNIT, s.NAT1, s.NAT2,
+          s.NCNF, s.NNMX, s.NNMY, s.SLAB[6].JONO4, s.NODSX[50], s.NP[120], s.NUDL[7]})
+        EXPECT_EQ(zero, 0);
+    for (const Variant& zero : {s.NOTCON, s.NGAP, s.INPUT, s.NTEMP, s.NWT, s.TEMP, s.CT, s.FMAX, s.NL, s.YMSB,
+                                s.SUBMOD, s.NAS, s.YMS, s.PRS, s.AREA[7][24].QQ, s.TNLR[12][7],
+                                s.JOINT[7].NNAJ, s.JOINT[7].BARNO[1], s.FOUNDATION[6].E})
+        EXPECT_EQ(zero, Variant(0));
+    EXPECT_EQ(s.NCYCLE, Variant(1));
+    EXPECT_EQ(s.DEL, Variant(.001));
+    EXPECT_EQ(s.MAXIC, Variant(30));
+    EXPECT_EQ(s.PRSB, Variant(.3));
+    EXPECT_EQ(s.LAYER[1].PR, .15F);
+    EXPECT_EQ(s.LAYER[2].PR, 0);
+    EXPECT_EQ(s.FSAF[12], 1);
+    EXPECT_EQ(s.JOINT[7].BARNO[15], Variant(1));
+    EXPECT_EQ(s.SLAB[6].X[15] + s.SLAB[6].Y[15], 0);
+    EXPECT_EQ(s.FORCE[120].FF + s.MOMENTX[120].FMX + s.MOMENTY[120].FMY, 0);
+    // Kept: what lies behind the places that are cleared.
+    EXPECT_EQ(s.NUDL[8], 5);
+    EXPECT_EQ(s.AREA[8][1].QQ, Variant(5));
+    EXPECT_EQ(s.TNLR[12][8], Variant(5));
+    EXPECT_EQ(s.SLAB[6].X[16] + s.SLAB[6].Y[16], 10);
+}
+
+TEST(SlabNewFile, UnitsDecideSixValues) {
+    SlabSet s;
+    setUnitDefaults(s);
+    EXPECT_EQ(s.CT.text() + " " + s.FMAX.text() + " " + s.YMSB.text(), ".000005 1 29000000");
+    EXPECT_EQ(
+        numberText(s.LAYER[1].GAMA) + " " + numberText(s.LAYER[1].PMR) + " " + numberText(s.LAYER[1].YM),
+        "150 500 4000000");
+    s.NUNIT = 2;
+    setUnitDefaults(s);
+    EXPECT_EQ(s.CT.text() + " " + s.FMAX.text() + " " + s.YMSB.text(), ".000009 2.54 200000000");
+    EXPECT_EQ(
+        numberText(s.LAYER[1].GAMA) + " " + numberText(s.LAYER[1].PMR) + " " + numberText(s.LAYER[1].YM),
+        "23.6 3450 2.76E+07");
+}
+
+TEST(SlabDataSet2, GetsWhatTheCountsReach) {
+    RandomSlabStores stores(99);
+    for (int round = 0; round < 40; ++round) {
+        SCOPED_TRACE(round);
+        const auto store = stores.next();
+        SlabSet& copy = store->slab[2];
+        copy = SlabSet();
+        copyToDataSet2(*store);
+        EXPECT_EQ(copy.UL, Variant(0)) << "the status is its own";
+        EXPECT_EQ(copy.TC, 0);
+        EXPECT_EQ(copy.CL, Variant(0));
+        // What the deck writes is all there, so both sets give the same cards.
+        copy.UL = store->slab[1].UL;
+        copy.TC = store->slab[1].TC;
+        copy.CL = store->slab[1].CL;
+        const auto deckOfOne = [&](int n) {
+            const auto single = std::make_unique<Store>();
+            single->SlabNPROB = 1;
+            single->slab[1] = store->slab[n];
+            std::ostringstream stream;
+            ListWriter out(stream);
+            saveSlabDeck(*single, out);
+            return stream.str();
+        };
+        ASSERT_EQ(deckOfOne(2), deckOfOne(1));
+    }
+}
+
+TEST(SlabDataSet2, KeepsWhatLiesBehindTheCounts) {
+    const auto store = singleSlabStore();
+    SlabSet &from = store->slab[1], &copy = store->slab[2];
+    from.SLAB[1].X[4] = from.SLAB[2].X[1] = 9;
+    from.NJOINT = 1;
+    from.JOINT[1].NNAJ = 2;
+    from.FSAF[2] = from.NP[1] = 9;
+    from.LAYER[2].PMR = 9;  // layer properties in full, whatever NLAYER says
+    copyToDataSet2(*store);
+    EXPECT_EQ(copy.SLAB[1].X[3], 120.5F);
+    EXPECT_EQ(copy.SLAB[1].X[4] + copy.SLAB[2].X[1] + copy.FSAF[2] + copy.NP[1], 0);
+    EXPECT_EQ(copy.FSAF[1], 1);
+    EXPECT_EQ(copy.JOINT[1].BARNO[2], Variant(1));
+    EXPECT_EQ(copy.JOINT[1].BARNO[3], Variant(0));
+    EXPECT_EQ(copy.LAYER[2].PMR, 9);
+
+    from.NPRINT = 121;
+    EXPECT_THROW(copyToDataSet2(*store), RunTimeError);
+    EXPECT_EQ(copy.NP[1], 9) << "what lies in front of the failure is copied";
+}
+
+TEST(SlabErrCheck, TellsTheFirstThingThatIsMissing) {
+    const struct {
+        void (*spoil)(SlabSet& s);
+        const char* message;
+    } rows[] = {
+        {[](SlabSet& s) { s.SLAB[1].NY = 0; }, "NX or NY by clicking Slab\\Arrangement menu."},
+        {[](SlabSet& s) { s.LAYER[1].T = 0; }, "slab thickness (T) by clicking Slab\\Properties menu."},
+        {[](SlabSet& s) { s.NJOINT = 1, s.JOINT[1].BD = ""; },
+         "the Joint Information by clicking the Joint menu."},
+        {[](SlabSet& s) { s.NPRINT = 1; },
+         "the nodal numbers for printout (NP) by clicking Optional\\Node Printout menu."},
+        {[](SlabSet& s) { s.NSX = 1; },
+         "the nodal numbers on x axis of symmetry (NODSX) by clicking Optional\\Node X SYMMETRY menu."},
+        {[](SlabSet& s) { s.NSY = 1; },
+         "the nodal numbers on y axis of symmetry (NODSY) by clicking Optional\\Node Y SYMMETRY menu."},
+        {[](SlabSet& s) { s.NOTCON = 1.0; },
+         "the nodal numbers not in contact (NODNC) by clicking Optional\\Node Not Contact menu"},
+        {[](SlabSet& s) { s.NGAP = 1.0; }, "the amount of gaps (GAP) by clicking Optional\\Gaps menu"},
+        {[](SlabSet& s) { s.NAT1 = 1; },
+         "the additional thicknesses (T1) by clicking Optional\\Add.T.Layer1 menu."},
+        {[](SlabSet& s) { s.NAT2 = 1; },
+         "the additional thicknesses (T2) by clicking Optional\\Add.T.Layer2 menu."},
+    };
+    const auto store = singleSlabStore();
+    store->CurSlabDS = 2;
+    EXPECT_EQ(ErrCheck(*store), std::vector<std::string>{});
+    EXPECT_EQ(store->CurSlabDS, 1) << "kept, whatever the buttons show";
+    for (auto row = std::rbegin(rows); row != std::rend(rows); ++row) {  // each row beats all behind it
+        row->spoil(store->slab[1]);
+        EXPECT_EQ(ErrCheck(*store),
+                  std::vector<std::string>{"You forgot to enter " + std::string(row->message)});
+    }
+    store->slab[1] = singleSlabStore()->slab[1];
+    store->slab[1].NJOINT = 1;
+    store->slab[1].JOINT[1].SPCON1 = "100";
+    EXPECT_TRUE(ErrCheck(*store).empty()) << "a spring is as good as a bar";
+}
+
+TEST(SlabErrCheck, ARaftHasThreeLimitsThatAllAreTold) {
+    const auto store = singleSlabStore();
+    SlabSet& s = store->slab[1];
+    s.NDAMA = 1;
+    s.NPY = s.NLG = 2;
+    EXPECT_TRUE(ErrCheck(*store).empty());
+    s.NNMY = 1;
+    const auto messages = ErrCheck(*store);
+    ASSERT_EQ(messages.size(), 3U);
+    EXPECT_EQ(messages[2],
+              "Raft foundation limits only to one load group, please change NLG to 1 by clicking the General "
+              "menu.");
+    s.NPY = 1;
+    EXPECT_EQ(ErrCheck(*store).size(), 2U);
+}
+
+template <class Rules>
+std::string words(const Rules& rules, const SlabSet& set) {
+    std::string text;
+    for (const auto& rule : rules)
+        text += std::string(rule.label).substr(3) + (rule.needsInput(set) ? "! " : " ") +
+                (rule.keepsDone ? "kept " : "");
+    return text;
+}
+
+TEST(SlabWords, GoByTheDataSet) {
+    SlabSet s;  // a second data set whose status nobody has decided asks for nothing
+    s.NPY = 1;
+    EXPECT_EQ(words(slabColorCode, s), "Adjust Joint Optional Damage Uniform Curling Raft ");
+    s.NPY = 0;
+    s.NJOINT = s.NSY = s.NDAMA = s.TC = 1;
+    s.UL = s.CL = 1.0;
+    EXPECT_EQ(words(slabColorCode, s), "Adjust! Joint! Optional! Damage! Uniform! Curling! Raft! ");
+    EXPECT_EQ(words(slabGeneralRules, s), "Uniform! Curling! Raft! Adjust! kept Joint! kept Optional! kept ");
+    EXPECT_TRUE(slabDamageRule.keepsDone && slabDamageRule.needsInput(s));
+    EXPECT_STREQ(slabColorCode[2].otherwise, "defaulr");
+    EXPECT_STREQ(slabGeneralRules[5].otherwise, "default");
+}
+
+TEST(SlabArrangement, NoDowelAtTheEndOfAJointAndThreeNodesForDamage) {
+    SlabSet s;
+    setNewFileDefaults(s);
+    s.NSLAB = 3;
+    s.NJOINT = 4;
+    for (int n = 1; n <= 3; ++n) {
+        s.SLAB[n].NX = static_cast<Integer>(3 + n);
+        s.SLAB[n].NY = static_cast<Integer>(6 + n);
+    }
+    s.SLAB[1].JONO2 = s.SLAB[2].JONO1 = 1;  // the first slab that names it decides
+    s.SLAB[2].JONO4 = s.SLAB[3].JONO3 = 2;
+    s.SLAB[3].JONO2 = 4;  // nobody names joint 3
+    const auto ends = [&] {
+        std::string text;
+        for (int joint = 1; joint <= 4; ++joint) {
+            for (int node = 2; node <= 15; ++node)
+                if (s.JOINT[joint].BARNO[node] == Variant(0))
+                    text += std::to_string(joint) + ":" + std::to_string(node) + " ";
+        }
+        return text;
+    };
+    setArrangementDefaults(s);
+    EXPECT_EQ(ends(), "1:7 2:5 4:9 ");
+    EXPECT_EQ(s.NP[1], 0);
+    s.NDAMA = 1;
+    setArrangementDefaults(s);
+    EXPECT_EQ(s.NP[1], 0) << "with the PCA criteria only where three nodes are printed";
+    s.NPRINT = 3;
+    setArrangementDefaults(s);
+    EXPECT_EQ(s.NP[2], 15);
+    s.NDAMA = 2;
+    s.NPRINT = 0;
+    s.SLAB[1].NY = 9;
+    setArrangementDefaults(s);
+    EXPECT_EQ(s.NP[1], 1);
+    EXPECT_EQ(s.NP[2], 19);
+    EXPECT_EQ(s.NP[3], 37);
+}
+
+TEST(SlabRaft, MayMoveMore) {
+    SlabSet s;
+    s.FMAX = 1;
+    setRaftDefault(s);
+    EXPECT_EQ(s.FMAX, Variant(1)) << "no concentrated load, no raft";
+    s.NNMX = 1;
+    setRaftDefault(s);
+    EXPECT_EQ(s.FMAX, Variant(10));
+    s.NUNIT = 1;
+    setRaftDefault(s);
+    EXPECT_EQ(s.FMAX, Variant(25.4));
+}
+
+}  // namespace
