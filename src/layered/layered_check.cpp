@@ -1,5 +1,6 @@
 #include "layered/layered_check.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "layered/layered_cards.h"
@@ -18,6 +19,42 @@ struct Rule {
 
 bool isWhole(Double x, Double least, Double most) { return x >= least && x <= most && x == std::floor(x); }
 
+/// A depth counts as within a layer when it misses the boundary by this part of itself: thicknesses of seven
+/// digits add up with rounding errors.
+constexpr Double BOUNDARY_TOLERANCE = 1e-6;
+
+bool isWithinLayer(const LayeredSet& s, int layer, Double z) {
+    Double top = 0;
+    for (int i = 1; i < layer; ++i) top += s.LAYER[i].TH.number();
+    if (z < top * (1 - BOUNDARY_TOLERANCE)) return false;
+    if (layer == static_cast<int>(s.NL)) return true;
+    return z <= (top + s.LAYER[layer].TH.number()) * (1 + BOUNDARY_TOLERANCE);
+}
+
+bool nonlinearBefore(const LayeredSet& s, int n, Double layer) {
+    for (int k = 1; k < n; ++k)
+        if (s.NOLLAY[k].LAYNO.number() == layer) return true;
+    return false;
+}
+
+bool viscoelasticBefore(const LayeredSet& s, int n, Double layer) {
+    for (int k = 1; k < n; ++k)
+        if (s.VISLAY[k].LNV.number() == layer) return true;
+    return false;
+}
+
+/// True when `layer` is one of the nonlinear layers. Cards further on may not have been looked at yet.
+bool isNonlinear(const LayeredSet& s, int layer) {
+    if ((s.MATL != 2 && s.MATL != 4) || !s.NOLAY.isNumeric()) return false;
+    for (int n = 1; n <= std::min(s.NOLAY.number(), 12.0); ++n)
+        if (s.NOLLAY[n].LAYNO.isNumeric() && s.NOLLAY[n].LAYNO.number() == layer) return true;
+    return false;
+}
+
+/// Damage is done by the strains at the points.
+Double leastPoints(const LayeredSet& s) { return s.NDAMA > 0 ? 1 : 0; }
+constexpr const char* POINTS_DEMAND = "there must be 0 to 25 points, for a damage analysis at least 1";
+
 #define HOLDS(condition)                                                \
     []([[maybe_unused]] Double x, [[maybe_unused]] const LayeredSet& s, \
        [[maybe_unused]] const Place& at) -> bool { return condition; }
@@ -30,24 +67,60 @@ const Rule rules[] = {
     {3, "NLG", HOLDS(isWhole(x, 1, 12)), "there must be 1 to 12 load groups"},
     {4, "DEL", HOLDS(x > 0), "the tolerance must be greater than 0"},
     {5, "NL", HOLDS(isWhole(x, 1, 19)), "there must be 1 to 19 layers"},
-    {5, "NZ", HOLDS(isWhole(x, s.NDAMA == 0 ? 1 : 0, 19)),
-     "there must be 1 to 19 depths, or with a damage analysis 0 to 19"},
+    {5, "NZ", HOLDS(s.NDAMA > 0 || isWhole(x, 1, 19)), "there must be 1 to 19 depths"},
     {5, "ICL", HOLDS(x >= 1), "there must be 1 cycle of integration or more"},
     {5, "NSTD", HOLDS(x == 1 || x == 5 || x == 9), "NSTD must be 1, 5 or 9"},
     {6, "TH", HOLDS(x > 0), "the thickness must be greater than 0"},
     {7, "PR", HOLDS(x > -1 && x <= .5), "Poisson's ratio must be above -1 and at most .5"},
     {8, "ZC", HOLDS(x >= 0), "the depth must not be negative"},
     {10, "INT", HOLDS(x == 0 || x == 1), "INT must be 0 or 1"},
-    {11, "E", HOLDS(x > 0 || isViscoelastic(s, at.k)), "the modulus must be greater than 0"},
+    {11, "E", HOLDS(x > 0 || isViscoelastic(s, at.k) || (x == 0 && isNonlinear(s, at.k))),
+     "the modulus must be greater than 0"},
     {13, "LOAD", HOLDS(isWhole(x, 0, 3)), "LOAD must be 0, 1, 2 or 3"},
     {14, "CR", HOLDS(x > 0), "the contact radius must be greater than 0"},
     {14, "CP", HOLDS(x > 0), "the contact pressure must be greater than 0"},
-    {16, "NR", HOLDS(isWhole(x, 0, 25)), "there must be 0 to 25 points"},
+    {16, "NR", HOLDS(isWhole(x, leastPoints(s), 25)), POINTS_DEMAND},
     {17, "RC", HOLDS(x >= 0), "the radial coordinate must not be negative"},
-    {19, "NPT", HOLDS(isWhole(x, 0, 25)), "there must be 0 to 25 points"},
+    {19, "NPT", HOLDS(isWhole(x, leastPoints(s), 25)), POINTS_DEMAND},
     {20, "XW", HOLDS(s.LOADL[at.i].LOAD.number() > 1 ? x > 0 : x >= 0),
      "the spacing of several axles must be greater than 0"},
     {20, "YW", HOLDS(x >= 0), "the spacing must not be negative"},
+
+    {25, "NOLAY", HOLDS(isWhole(x, 1, 12)), "there must be 1 to 12 nonlinear layers"},
+    {25, "ITENOL", HOLDS(isWhole(x, 1, 32767)), "there must be 1 iteration or more"},
+    {26, "LAYNO", HOLDS(isWhole(x, 1, s.NL)), "there is no such layer"},
+    {26, "LAYNO", HOLDS(!nonlinearBefore(s, at.k, x)), "the layer is among the nonlinear ones already"},
+    {27, "ZCNOL", HOLDS(isWithinLayer(s, s.NOLLAY[at.k].LAYNO.integer(), x)),
+     "the stress point must lie in its layer, LAYNO of card (26)"},
+    {28, "DELNOL", HOLDS(x > 0), "the tolerance must be greater than 0"},
+    {29, "RELAX", HOLDS(x > 0 && x <= 1), "the relaxation factor must be above 0 and at most 1"},
+    {30, "GAM", HOLDS(x >= 0), "the unit weight must not be negative"},
+    {31, "K0", HOLDS(x >= 0), "the coefficient of earth pressure must not be negative"},
+    {33, "EMIN", HOLDS(x >= 0), "the least modulus must not be negative"},
+    {33, "EMAX", HOLDS(x == 0 || x >= s.KPER[at.j][at.i][1].number()),
+     "the greatest modulus must not be below EMIN; 0 is no limit"},
+    {33, "PHI", HOLDS(x >= 0), "the angle of internal friction must not be negative"},
+    {33, "K1", HOLDS(x > 0), "the nonlinear coefficient must be greater than 0"},
+
+    {36, "DUR", HOLDS(x >= 0), "the load duration must not be negative"},
+    {37, "NVL", HOLDS(isWhole(x, 1, 12)), "there must be 1 to 12 viscoelastic layers"},
+    {37, "LNV", HOLDS(isWhole(x, 1, s.NL)), "there is no such layer"},
+    {37, "LNV", HOLDS(!viscoelasticBefore(s, at.k, x)), "the layer is among the viscoelastic ones already"},
+    {37, "LNV", HOLDS(!isNonlinear(s, static_cast<int>(x))), "the layer is nonlinear, card (26)"},
+    {38, "NTYME", HOLDS(isWhole(x, 1, 15)), "there must be 1 to 15 times"},
+    {39, "TYME", HOLDS(x > 0), "the time must be greater than 0"},
+    {39, "TYME", HOLDS(at.k == 1 || x > s.TYME[at.k - 1].number()),
+     "each time must be greater than the one before"},
+    {42, "CREEP", HOLDS(x > 0), "the creep compliance must be greater than 0"},
+
+    {46, "NLBT", HOLDS(isWhole(x, 0, 19)), "there must be 0 to 19 layer bottoms"},
+    {46, "NLTC", HOLDS(isWhole(x, 0, 19)), "there must be 0 to 19 layer tops"},
+    {47, "LNBT", HOLDS(isWhole(x, 1, s.NL - 1)),
+     "there is no such layer, or it is the last one, which has no bottom"},
+    {48, "LNTC", HOLDS(isWhole(x, 1, s.NL)), "there is no such layer"},
+    {49, "TNLR", HOLDS(x >= 0), "the load repetitions must not be negative"},
+    {50, "FT1", HOLDS(x > 0), "the coefficient must be greater than 0"},
+    {51, "FT4", HOLDS(x > 0), "the coefficient must be greater than 0"},
 };
 
 class Checker : public CardWalker<LayeredSet> {

@@ -11,8 +11,8 @@ struct Store;
 
 /// The first fault of a data set in the order of the cards, or nothing. Looks at what the cards of its `MATL`
 /// and `NDAMA` hold: every value is a finite number, counts are whole and within the deck's limits, and
-/// geometry, moduli, interfaces, loads and the integration's settings are what a layered system can have. Of
-/// nonlinear, viscoelastic and damage cards only numbers and limits of the arrays are looked at.
+/// geometry, materials, interfaces, loads, damage and the integration's settings are what a layered system
+/// can have.
 std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number);
 
 /// The first fault of the number of data sets, or of data sets 1 to `NPROB`.

@@ -29,8 +29,8 @@ class Source {
         if (NR > BedProblem::RADIAL_POINTS) throw RunTimeError(Fault::SubscriptOutOfRange, "RC");
     }
 
-    /// What a further axle adds to ratios from..to of one period and load group.
-    void additions(Bounded<Single, 19>& ratios, int from, int to) {
+    /// What further axles add to ratios from..to of one period and load group.
+    void additions(Bounded<Single, 19>& ratios, Bounded<Single, 19>&, int from, int to) {
         for (int j = from; j <= to; ++j)
             ratios[j] = ToSingle(static_cast<Double>(ratios[j]) + static_cast<Double>(in_.readSingle()));
     }
@@ -60,8 +60,8 @@ class Sink {
     void endLine() { out_.endLine(); }
     void radialPoints(Integer) {}
 
-    void additions(const Bounded<Single, 19>&, int from, int to) {
-        for (int j = from; j <= to; ++j) item(Single{0});
+    void additions(const Bounded<Single, 19>&, const Bounded<Single, 19>& added, int from, int to) {
+        for (int j = from; j <= to; ++j) item(added[j]);
     }
 
   private:
@@ -158,10 +158,11 @@ void damageBlock(File& file, Bed& bed) {
     for (int p = 1; p <= bed.NPY; ++p)
         for (int g = 1; g <= bed.NLG; ++g) {
             auto& ratios = bed.DRATIO[p][g];
+            auto& added = bed.ADDED[p][g];
             list(file, 1, bed.NZ, ratios);
             if (bed.LOAD[g] > 1) {
-                file.additions(ratios, 1, bed.NLBT);
-                file.additions(ratios, bed.NLBT + 1, bed.NLBT + bed.NLTC);
+                file.additions(ratios, added, 1, bed.NLBT);
+                file.additions(ratios, added, bed.NLBT + 1, bed.NLBT + bed.NLTC);
                 file.endLine();
             }
         }

@@ -67,8 +67,10 @@ struct BedProblem {
     Integer NLBT = 0, NLTC = 0;       ///< layer bottoms checked for fatigue, layer tops for deformation
     PerLoad<PerPeriod<Single>> TNLR;  ///< [load group][period]
     /// [period][load group][location], the NLBT fatigue locations first, then the NLTC deformation ones;
-    /// all axles of the load group together.
+    /// all axles of the load group together, less what ADDED holds.
     PerPeriod<PerLoad<PerDepth<Single>>> DRATIO;
+    /// The part of further axles, for the writer; the reader adds it to DRATIO and leaves 0 here.
+    PerPeriod<PerLoad<PerDepth<Single>>> ADDED;
     Integer KBT = 0;  ///< governing fatigue location, 1..NLBT
     Integer KTC = 0;  ///< governing deformation location, 1..NLTC
     Single DRBT = 0, DRTC = 0, DESLIFE = 0;
@@ -91,10 +93,9 @@ class BedReader {
     std::optional<Integer> left_;  ///< problems not yet read; unknown before the first
 };
 
-/// The whole file. Singles are written with the fewest digits that read back as the same value; the ratios
-/// of DRATIO stand whole in the first list and the additions of further axles are 0. Double quotes in a
-/// title become two apostrophes. Overflow for a number that is not finite, SubscriptOutOfRange for a count
-/// beyond the limits, TypeMismatch for a creep compliance that is no number.
+/// The whole file. Singles are written with the fewest digits that read back as the same value. Double quotes
+/// in a title become two apostrophes. Overflow for a number that is not finite, SubscriptOutOfRange for a
+/// count beyond the limits, TypeMismatch for a creep compliance that is no number.
 void writeBed(ListWriter& out, const std::vector<BedProblem>& problems);
 /// The same into the file at `path`, which stays as it was if anything fails.
 void writeBedFile(const std::string& path, const std::vector<BedProblem>& problems);

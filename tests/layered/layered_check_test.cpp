@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "support/layered_stores.h"
+#include "support/layered_roads.h"
 
 namespace {
 
@@ -31,10 +31,8 @@ TEST(LayeredCheck, NamesFieldCardAndDemand) {
         {[](LayeredSet& s) { s.NL = 0; }, "NL is 0, card (5), data set 1: there must be 1 to 19 layers"},
         {[](LayeredSet& s) { s.NL = 20; }, "NL is 20, card (5), data set 1: there must be 1 to 19 layers"},
         {[](LayeredSet& s) { s.NL = 2.5f; }, "NL is 2.5, card (5), data set 1: there must be 1 to 19 layers"},
-        {[](LayeredSet& s) { s.NZ = 0; },
-         "NZ is 0, card (5), data set 1: there must be 1 to 19 depths, or with a damage analysis 0 to 19"},
-        {[](LayeredSet& s) { s.NZ = 40; },
-         "NZ is 40, card (5), data set 1: there must be 1 to 19 depths, or with a damage analysis 0 to 19"},
+        {[](LayeredSet& s) { s.NZ = 0; }, "NZ is 0, card (5), data set 1: there must be 1 to 19 depths"},
+        {[](LayeredSet& s) { s.NZ = 40; }, "NZ is 40, card (5), data set 1: there must be 1 to 19 depths"},
         {[](LayeredSet& s) { s.ICL = 0; },
          "ICL is 0, card (5), data set 1: there must be 1 cycle of integration or more"},
         {[](LayeredSet& s) { s.NSTD = 3; }, "NSTD is 3, card (5), data set 1: NSTD must be 1, 5 or 9"},
@@ -59,13 +57,15 @@ TEST(LayeredCheck, NamesFieldCardAndDemand) {
         {[](LayeredSet& s) { s.LOADL[1].CP = -1; },
          "CP(1) is -1, card (14), data set 1: the contact pressure must be greater than 0"},
         {[](LayeredSet& s) { s.LOADL[1].NR = 26; },
-         "NR(1) is 26, card (16), data set 1: there must be 0 to 25 points"},
+         "NR(1) is 26, card (16), data set 1: there must be 0 to 25 points, for a damage analysis at least "
+         "1"},
         {[](LayeredSet& s) { s.LOADL[1].LOAD = 1, s.LOADL[1].NR = -1; },
-         "NPT(1) is -1, card (19), data set 1: there must be 0 to 25 points"},
+         "NPT(1) is -1, card (19), data set 1: there must be 0 to 25 points, for a damage analysis at least "
+         "1"},
         {[](LayeredSet& s) { s.LOADL[1].LOAD = 2; },
          "XW(1) is 0, card (20), data set 1: the spacing of several axles must be greater than 0"},
         {[](LayeredSet& s) { s.MATL = 2, s.NOLAY = 13; },
-         "LAYNO(13), card (26), data set 1: Subscript out of range"},
+         "NOLAY is 13, card (25), data set 1: there must be 1 to 12 nonlinear layers"},
     };
     for (const auto& row : rows) {
         const auto store = threeLayerStore();
@@ -82,19 +82,85 @@ TEST(LayeredCheck, LooksOnlyAtWhatTheDeckUses) {
     s.LOADL[1].XW = s.LOADL[2].CR = -1;
     EXPECT_EQ(sentenceOf(*store), "");
 
-    s.MATL = 3;
-    s.NVL = s.VISLAY[1].LNV = 2;  // the second of NVL layers is not entered yet
-    s.NVL = 1;
-    s.EMOD[1][2] = 0;
-    EXPECT_EQ(sentenceOf(*store), "") << "a viscoelastic layer needs no modulus";
-    s.EMOD[1][1] = 0;
-    EXPECT_NE(sentenceOf(*store), "");
+    s.NDAMA = 1;
+    s.NZ = 40;
+    EXPECT_EQ(sentenceOf(*store), "") << "damage has depths of its own";
 
     const auto two = threeLayerStore();
     two->NPROB = 2;
     EXPECT_EQ(sentenceOf(*two), "MATL is 0, card (3), data set 2: MATL must be 1, 2, 3 or 4");
     two->NPROB = 6;
     EXPECT_EQ(sentenceOf(*two), "NPROB is 6, card (1): there must be 1 to 5 data sets");
+}
+
+/// Faults of one card each; the message must begin with field and card.
+struct SpoiltRow {
+    void (*spoil)(LayeredSet& s);
+    const char* beginning;
+};
+
+void expectFaults(const Store& good, const std::vector<SpoiltRow>& rows) {
+    EXPECT_EQ(sentenceOf(good), "");
+    for (const SpoiltRow& row : rows) {
+        const auto store = std::make_unique<Store>(good);
+        row.spoil(store->layered[1]);
+        const std::string sentence = sentenceOf(*store);
+        EXPECT_TRUE(sentence.starts_with(row.beginning)) << sentence << "\n  is not " << row.beginning;
+    }
+}
+
+TEST(LayeredCheck, KnowsNonlinearLayers) {
+    const auto good = nonlinearStore();
+    good->layered[1].EMOD[1][2] = 0;  // starts from K1
+    expectFaults(*good, {{[](LayeredSet& s) { s.EMOD[1][1] = -1; }, "E(1, 1) is -1, card (11)"},
+                         {[](LayeredSet& s) { s.NOLAY = 1; }, "E(1, 2) is 0, card (11)"},
+                         {[](LayeredSet& s) { s.NOLAY = 0, s.EMOD[1][2] = 1; }, "NOLAY is 0, card (25)"},
+                         {[](LayeredSet& s) { s.ITENOL = 0; }, "ITENOL is 0, card (25)"},
+                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 0; }, "LAYNO(1) is 0, card (26)"},
+                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 3; }, "LAYNO(1) is 3, card (26)"},
+                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 2; }, "LAYNO(2) is 2, card (26)"},
+                         {[](LayeredSet& s) { s.NOLLAY[1].NCLAY = ""; }, "NCLAY(1) is empty, card (26)"},
+                         {[](LayeredSet& s) { s.NOLLAY[1].ZCNOL = 12.1; }, "ZCNOL(1) is 12.1, card (27)"},
+                         {[](LayeredSet& s) { s.NOLLAY[2].ZCNOL = 11.9; }, "ZCNOL(2) is 11.9, card (27)"},
+                         {[](LayeredSet& s) { s.DELNOL = 0; }, "DELNOL is 0, card (28)"},
+                         {[](LayeredSet& s) { s.RELAX[1] = 0; }, "RELAX(1) is 0, card (29)"},
+                         {[](LayeredSet& s) { s.RELAX[1] = 1.5f; }, "RELAX(1) is 1.5, card (29)"},
+                         {[](LayeredSet& s) { s.LAYER[2].GAM = -120; }, "GAM(2) is -120, card (30)"},
+                         {[](LayeredSet& s) { s.KGRAN[1].K0 = -1; }, "K0(1) is -1, card (31)"},
+                         {[](LayeredSet& s) { s.KPER[1][1][1] = -5; }, "PHI(1, 1) is -5, card (33)"},
+                         {[](LayeredSet& s) { s.KPER[1][1][2] = 0; }, "K1(1, 1) is 0, card (33)"},
+                         {[](LayeredSet& s) { s.KPER[2][1][2] = 500; }, "EMAX(1, 2) is 500, card (33)"}});
+    good->layered[1].NOLLAY[2].ZCNOL = 12;
+    EXPECT_EQ(sentenceOf(*good), "") << "a boundary belongs to both layers";
+}
+
+TEST(LayeredCheck, KnowsViscoelasticLayersAndDamage) {
+    const auto good = viscousHalfSpace(.1, {.1, 1, 10}, {});
+    expectFaults(*good,
+                 {{[](LayeredSet& s) { s.NVL = 1; }, "E(1, 2) is 0, card (11)"},
+                  {[](LayeredSet& s) { s.DUR = -1; }, "DUR is -1, card (36)"},
+                  {[](LayeredSet& s) { s.NVL = 13; }, "NVL is 13, card (37)"},
+                  {[](LayeredSet& s) { s.EMOD[1][2] = 1, s.VISLAY[2].LNV = 0; }, "LNV(2) is 0, card (37)"},
+                  {[](LayeredSet& s) { s.EMOD[1][2] = 1, s.VISLAY[2].LNV = 1; }, "LNV(2) is 1, card (37)"},
+                  {[](LayeredSet& s) { s.NTYME = 16; }, "NTYME is 16, card (38)"},
+                  {[](LayeredSet& s) { s.TYME[1] = 0; }, "TYME(1) is 0, card (39)"},
+                  {[](LayeredSet& s) { s.TYME[2] = .1; }, "TYME(2) is .1, card (39)"},
+                  {[](LayeredSet& s) { s.CREEP[2][3] = 0; }, "CREEP(2, 3) is 0, card (42)"},
+                  {[](LayeredSet& s) { s.TEMP[1][2] = "warm"; }, "TEMP(1, 2) is warm, card (44)"}});
+
+    const auto both = nonlinearStore();
+    LayeredSet& s = both->layered[1];
+    s.MATL = 4;
+    s.NVL = 1, s.VISLAY[1].LNV = 2;
+    EXPECT_TRUE(sentenceOf(*both).starts_with("LNV(1) is 2, card (37)")) << sentenceOf(*both);
+
+    expectFaults(*damageStore(), {{[](LayeredSet& s) { s.LOADL[1].NR = 0; }, "NR(1) is 0, card (16)"},
+                                  {[](LayeredSet& s) { s.NLBT = 20; }, "NLBT is 20, card (46)"},
+                                  {[](LayeredSet& s) { s.DAMBT[1].LNBT = 3; }, "LNBT(1) is 3, card (47)"},
+                                  {[](LayeredSet& s) { s.DAMTC[1].LNTC = 4; }, "LNTC(1) is 4, card (48)"},
+                                  {[](LayeredSet& s) { s.TNLR[1][1] = -1; }, "TNLR(1, 1) is -1, card (49)"},
+                                  {[](LayeredSet& s) { s.DAMBT[1].FT1 = 0; }, "FT1(1) is 0, card (50)"},
+                                  {[](LayeredSet& s) { s.DAMTC[1].FT4 = 0; }, "FT4(1) is 0, card (51)"}});
 }
 
 }  // namespace

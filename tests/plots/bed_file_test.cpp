@@ -86,6 +86,11 @@ TEST(BedFile, FurtherAxlesAddToTheRatios) {
     EXPECT_FLOAT_EQ(bed.DRATIO[2][2][2], 0.42F);
     EXPECT_EQ(bed.TNLR[2][1], 1000.5F);
     EXPECT_EQ(bed.DESLIFE, 1.465201F);
+
+    BedProblem apart = bed;
+    apart.DRATIO[1][2][1] = 0.03F, apart.ADDED[1][2][1] = 0.001F;
+    EXPECT_TRUE(readAll(written({apart})).at(0) == bed);
+    EXPECT_NE(written({apart}), written({bed}));
     const char* const dual = "1\nT\n1 1 1 1\n1 0 0\n.4 9000 1 5 80 0 0 13 1 0 730 1 8 .25 1 0 .5 2\n";
     EXPECT_EQ(readAll(dual).at(0).DESLIFE, 2) << "dual wheels are one axle";
 }

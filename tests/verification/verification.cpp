@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <functional>
+#include <numbers>
 #include <string>
 #include <vector>
 
 #include "solvers/layered_theory/reference.h"
+#include "solvers/tolstrat/analysis.h"
+#include "support/layered_roads.h"
 
 namespace {
 
@@ -125,6 +129,78 @@ void secondCalculation() {
     }
 }
 
+/// A step response superposed with sin^2(pi t / duration) at its peak.
+double convolution(double duration, const std::function<double(double)>& f) {
+    constexpr int STEPS = 20000;
+    const double step = duration / 2 / STEPS;
+    const auto load = [&](double t) { return std::pow(std::sin(std::numbers::pi * t / duration), 2); };
+    double sum = 0;
+    for (int i = 0; i < STEPS; ++i)
+        sum += f(duration / 2 - (i + .5) * step) * (load((i + 1) * step) - load(i * step));
+    return sum;
+}
+
+void viscoelasticHalfSpace() {
+    head("Viscoelastic half-space",
+         "Deflection at the centre of a load of 50 psi on a circle of 6 in., PR = .3, of the compliance D(t) "
+         "= "
+         "1e-6 + 9e-6 (1 - exp(-t/T)) per psi, given with seven digits at 11 times from .001 to 100 sec. The "
+         "first "
+         "T is one of the series, the other two show what collocation leaves.");
+    const std::vector<double> times = {.001, .003, .01, .03, .1, .3, 1, 3, 10, 30, 100};
+    const auto deflections = [&](double duration, const ExponentialCreep& creep) {
+        const auto store = viscousHalfSpace(duration, times, creep);
+        const LayeredSet& set = store->layered[1];
+        std::vector<double> w;
+        for (const auto& result : solveGroup(set, viscoelasticity(set, 1), 1, 1, 1))
+            w.push_back(result.result.responses[0].w);
+        return w;
+    };
+    ExponentialCreep creep;
+    creep.tau = std::sqrt(.1 * .3);
+    const auto stationary = deflections(0, creep);
+    for (std::size_t i : {0, 4, 10}) {
+        char name[64];
+        std::snprintf(name, sizeof name, "stationary load, %g sec, in.", times[i]);
+        const double expected = centreDeflection(creep.at(times[i]));
+        row(name, "Boussinesq 1885", expected, stationary[i], expected);
+    }
+    for (double tau : {creep.tau, .07, .4}) {
+        creep.tau = tau;
+        char name[64];
+        std::snprintf(name, sizeof name, "moving load, .1 sec, T = %.4g sec, in.", tau);
+        const double expected = centreDeflection(convolution(.1, [&](double t) { return creep.at(t); }));
+        row(name, "convolution by summation", expected, deflections(.1, creep)[0], expected);
+    }
+}
+
+void nonlinearLayer() {
+    head("Nonlinear layer",
+         "Modulus in psi of a granular layer of 12 in. on a linear subgrade, where E = K1 theta^K2 meets "
+         "theta of "
+         "E, DELNOL = 1e-10. PHI = 0 allows no tension.");
+    const auto store = nonlinearStore();
+    LayeredSet& set = store->layered[1];
+    set.NOLAY = 1, set.ITENOL = 200, set.DELNOL = 1e-10;
+    for (double PHI : {0., 45.}) {
+        set.KPER[1][1][1] = PHI;
+        const double least = PHI == 0 ? 0 : std::pow(std::tan((45 - PHI / 2) * std::numbers::pi / 180), 2);
+        double below = 1000, above = 1e6;
+        while (above - below > 1e-10 * below) {
+            const double E = (below + above) / 2;
+            const Structure road{{{12, E, .35}, {0, 7000, .45}}, {}};
+            const auto y = solveAxisymmetric({&road, 1}, 6, 60, std::vector{0.}, std::vector<Depth>{{6}})[0]
+                               .responses[0];
+            const double weight = 135 * 6 / 1728., vertical = y.szz + weight;
+            const double theta = vertical + 2 * std::max(y.srr + .6 * weight, least * vertical);
+            (6000 * std::sqrt(theta) > E ? below : above) = E;
+        }
+        char name[64];
+        std::snprintf(name, sizeof name, "PHI = %g", PHI);
+        row(name, "bisection", below, solveGroup(set, {}, 1, 1, 1)[0].moduli[0], below);
+    }
+}
+
 }  // namespace
 
 int main() {
@@ -140,4 +216,6 @@ int main() {
     closedForms();
     publishedTables();
     secondCalculation();
+    viscoelasticHalfSpace();
+    nonlinearLayer();
 }

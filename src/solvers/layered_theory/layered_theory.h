@@ -96,14 +96,17 @@ struct Position {
     double x, y;
 };
 
+struct Tensor {
+    double xx, yy, zz, xy, xz, yz;
+};
+
+/// The three principal values, the largest first.
+std::array<double, 3> principalValues(const Tensor& t);
+
 struct Load {
     double radius;                 ///< a > 0
     double pressure;               ///< q, any sign
     std::vector<Position> wheels;  ///< at least one
-};
-
-struct Tensor {
-    double xx, yy, zz, xy, xz, yz;
 };
 
 /// Of all wheels together, at a point and a depth.

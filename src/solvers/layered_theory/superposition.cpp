@@ -22,14 +22,6 @@ void addTurned(Tensor& t, double c, double s, double rr, double tt, double zz, d
     t.yz += rz * s;
 }
 
-std::array<double, 3> principalValues(const Tensor& t) {
-    Eigen::Matrix3d matrix;
-    matrix << t.xx, t.xy, t.xz, t.xy, t.yy, t.yz, t.xz, t.yz, t.zz;
-    const Eigen::Vector3d values =
-        Eigen::SelfAdjointEigenSolver<Eigen::Matrix3d>(matrix, Eigen::EigenvaluesOnly).eigenvalues();
-    return {values(2), values(1), values(0)};
-}
-
 /// Every point seen from every wheel; equal distances, common with wheels in a row, are calculated once.
 class Distances {
   public:
@@ -49,6 +41,14 @@ class Distances {
 };
 
 }  // namespace
+
+std::array<double, 3> principalValues(const Tensor& t) {
+    Eigen::Matrix3d matrix;
+    matrix << t.xx, t.xy, t.xz, t.xy, t.yy, t.yz, t.xz, t.yz, t.zz;
+    const Eigen::Vector3d values =
+        Eigen::SelfAdjointEigenSolver<Eigen::Matrix3d>(matrix, Eigen::EigenvaluesOnly).eigenvalues();
+    return {values(2), values(1), values(0)};
+}
 
 std::vector<Result> solve(std::span<const Structure> structures, const Load& load,
                           std::span<const Position> points, std::span<const Depth> depths,

@@ -1,10 +1,12 @@
 #include "solvers/tolstrat/command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <sstream>
+#include <thread>
 
 #include "layered/layered_check.h"
 #include "layered/layered_deck.h"
@@ -12,7 +14,7 @@
 #include "platform/list_file.h"
 #include "solvers/parallel.h"
 #include "solvers/tolstrat/csv.h"
-#include "solvers/tolstrat/linear.h"
+#include "solvers/tolstrat/damage_report.h"
 #include "solvers/tolstrat/plot_file.h"
 #include "solvers/tolstrat/report.h"
 #include "store/store.h"
@@ -21,9 +23,9 @@ namespace {
 
 struct Options {
     std::string path;  ///< of the deck, without ".DAT"
-    std::string csv;
+    std::string csv, csvModuli, csvDamage;
     bool quiet = false;
-    int threads = 1;
+    int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 };
 
 /// The deck and what is left beside it. Names that are there already keep their letter case.
@@ -59,64 +61,120 @@ void readDeck(const std::string& path, Store& store) {
         throw BadDeck(fault && standsBefore(fault->where, read.where) ? fault->sentence : read.sentence());
     }
     if (fault) throw BadDeck(fault->sentence);
-    for (int n = 1; n <= store.NPROB; ++n) {
-        const LayeredSet& set = store.layered[n];
-        if (set.MATL != 1) {
-            throw BadDeck("MATL, card (3), data set " + std::to_string(n) +
-                          ": only linear elastic layers (1) can be solved so far");
-        }
-        if (set.NDAMA != 0) {
-            throw BadDeck("NDAMA, card (3), data set " + std::to_string(n) +
-                          ": damage analysis cannot be done so far, so it must be 0");
-        }
-    }
 }
 
-/// All load groups of a data set, in the order of the output: periods outer, load groups inner.
-std::vector<GroupResult> solveSet(const LayeredSet& set, int n, const Options& options) {
+/// Periods of one load group that are solved together. Elastic periods share much of the work; the iterations
+/// of others are where the time goes, so that each is a job of its own.
+struct Job {
+    int group, first, last;
+};
+
+std::vector<Job> jobsOf(const LayeredSet& set) {
     const int groups = static_cast<int>(set.NLG), periods = static_cast<int>(set.NPY);
-    std::vector<std::vector<GroupResult>> byGroup(static_cast<std::size_t>(groups));
+    std::vector<Job> jobs;
+    for (int group = 1; group <= groups; ++group) {
+        if (set.MATL == 1) {
+            jobs.push_back({group, 1, periods});
+            continue;
+        }
+        for (int period = 1; period <= periods; ++period) jobs.push_back({group, period, period});
+    }
+    return jobs;
+}
+
+std::string progressLine(int n, const GroupResult& r) {
+    std::ostringstream text;
+    text << "Data set " << n << ", load group " << r.group << ", period " << r.period;
+    if (r.time) text << ", time " << *r.time << " sec";
+    if (!r.nonlinear.empty())
+        text << ": " << r.iterations.count() << " iterations"
+             << (r.iterations.converged ? "" : ", ITENOL reached");
+    text << ": " << r.result.cycles << " cycles" << (r.result.converged ? "" : ", ICL reached") << '\n';
+    return text.str();
+}
+
+/// All load groups of a data set, in the order of the output: periods outer, load groups, times inner.
+std::vector<GroupResult> solveSet(const LayeredSet& set, int n, const Viscoelasticity& creep,
+                                  const Options& options) {
+    const auto jobs = jobsOf(set);
+    std::vector<std::vector<GroupResult>> byJob(jobs.size());
     std::mutex console;
-    parallelFor(groups, options.threads, [&](int g) {
-        auto& results = byGroup[static_cast<std::size_t>(g)];
-        results = solveLinearGroup(set, g + 1);
+    parallelFor(static_cast<int>(jobs.size()), options.threads, [&](int j) {
+        const Job& job = jobs[static_cast<std::size_t>(j)];
+        auto& results = byJob[static_cast<std::size_t>(j)];
+        results = solveGroup(set, creep, job.group, job.first, job.last);
         if (options.quiet) return;
         const std::lock_guard lock(console);
-        for (const GroupResult& result : results) {
-            std::cout << "Data set " << n << ", load group " << g + 1 << ", period " << result.period << ": "
-                      << result.result.cycles << " cycles" << (result.result.converged ? "" : ", ICL reached")
-                      << std::endl;
-        }
+        for (const GroupResult& result : results) std::cout << progressLine(n, result) << std::flush;
     });
     std::vector<GroupResult> ordered;
-    for (int period = 0; period < periods; ++period) {
-        for (auto& results : byGroup) ordered.push_back(std::move(results[static_cast<std::size_t>(period)]));
-    }
+    for (auto& results : byJob) std::ranges::move(results, std::back_inserter(ordered));
+    std::ranges::stable_sort(ordered, {}, &GroupResult::period);
     return ordered;
 }
+
+/// The damage by all load groups in all periods; of a stationary load that at its last time.
+std::vector<GroupDamage> damageOfAll(const LayeredSet& set, const Viscoelasticity& creep,
+                                     const std::vector<GroupResult>& results) {
+    std::vector<GroupDamage> groups;
+    if (set.NDAMA == 0) return groups;
+    for (const GroupResult& result : results)
+        if (!result.time || *result.time == creep.times.back()) groups.push_back(damageOf(set, result));
+    return groups;
+}
+
+/// Everything that a run leaves, before it is written.
+struct Output {
+    explicit Output(bool timed)
+        : responses(responseText, timed, RESPONSE_COLUMNS),
+          moduli(moduliText, timed, MODULI_COLUMNS),
+          damage(damageText, timed, DAMAGE_COLUMNS) {}
+
+    std::ostringstream text, responseText, moduliText, damageText;
+    CsvTable responses, moduli, damage;
+    std::vector<BedProblem> problems;
+};
+
+void solveDataSet(const LayeredSet& set, int n, const Options& options, Output& out) {
+    const Viscoelasticity creep = viscoelasticity(set, n);
+    writeEcho(out.text, set, n, creep);
+    const auto results = solveSet(set, n, creep, options);
+    for (const GroupResult& result : results) {
+        writeResults(out.text, set, creep, result);
+        writeResponseRows(out.responses, set, n, result);
+        writeModuliRows(out.moduli, n, creep, result);
+    }
+    const auto damage = damageOfAll(set, creep, results);
+    const DamageSum sum = set.NDAMA > 0 ? sumDamage(set, damage) : DamageSum{};
+    if (set.NDAMA > 0) writeDamageSummary(out.text, set, damage, sum);
+    for (const GroupDamage& group : damage) writeDamageRows(out.damage, set, n, group);
+    writePlotNotes(out.text, set);
+    if (fitsPlotFile(set)) out.problems.push_back(bedProblem(set, damage, sum));
+}
+
+bool isStationaryViscous(const LayeredSet& set) { return set.MATL >= 3 && set.DUR.number() == 0; }
 
 void solveDeck(const Files& files, const Options& options) {
     Store store;
     readDeck(files.deck, store);
 
-    std::ostringstream text, csv;
-    std::vector<BedProblem> problems;
-    writeHeading(text, std::filesystem::path(files.deck).filename().string(), store.NPROB);
-    writeCsvHead(csv);
-    for (int n = 1; n <= store.NPROB; ++n) {
-        const LayeredSet& set = store.layered[n];
-        writeEcho(text, set, n);
-        for (const GroupResult& group : solveSet(set, n, options)) {
-            writeResults(text, set, group);
-            writeCsvRows(csv, set, n, group);
-        }
-        writePlotNotes(text, set);
-        problems.push_back(bedProblem(set));
-    }
-    if (!options.csv.empty()) writeFileAtomically(options.csv, csv.str());
-    writeFileAtomically(files.text, text.str());
-    writeBedFile(files.plot, problems);
-    if (!options.quiet) std::cout << "Results: " << files.text << "\nPlot: " << files.plot << std::endl;
+    bool timed = false;
+    for (int n = 1; n <= store.NPROB; ++n) timed = timed || isStationaryViscous(store.layered[n]);
+    Output out(timed);
+    writeHeading(out.text, std::filesystem::path(files.deck).filename().string(), store.NPROB);
+    for (int n = 1; n <= store.NPROB; ++n) solveDataSet(store.layered[n], n, options, out);
+
+    for (const auto& [path, table] : {std::pair(&options.csv, &out.responseText),
+                                      {&options.csvModuli, &out.moduliText},
+                                      {&options.csvDamage, &out.damageText}})
+        if (!path->empty()) writeFileAtomically(*path, table->str());
+    writeFileAtomically(files.text, out.text.str());
+    const bool plotted = static_cast<Integer>(out.problems.size()) == store.NPROB;
+    if (plotted) writeBedFile(files.plot, out.problems);
+    if (options.quiet) return;
+    std::cout << "Results: " << files.text << '\n';
+    if (plotted) std::cout << "Plot: " << files.plot << '\n';
+    std::cout << std::flush;
 }
 
 /// Results of an earlier run must not pass for those of this one.
@@ -142,8 +200,11 @@ int runTolstrat(int argc, char** argv) {
     CLI::App app{"Stresses, strains and displacements of layered pavements.", "TOLSTRAT.EXE"};
     app.add_option("deck", options.path, "path of the data file, without \".DAT\"")->required();
     app.add_option("--csv", options.csv, "also write the results as a table to this file");
+    app.add_option("--csv-moduli", options.csvModuli,
+                   "also write the moduli of nonlinear and viscoelastic layers, by iteration, to this file");
+    app.add_option("--csv-damage", options.csvDamage, "also write the damage as a table to this file");
     app.add_flag("--quiet", options.quiet, "no progress on the standard output");
-    app.add_option("--threads", options.threads, "load groups solved at the same time")
+    app.add_option("--threads", options.threads, "load groups and periods solved at the same time")
         ->check(CLI::Range(1, 64));
     app.set_version_flag("--version", "TOLSTRAT " TOLMARK_VERSION);
     CLI11_PARSE(app, argc, argv);

@@ -3,7 +3,7 @@
 
 enum ExitStatus : int { SOLVED = 0, BAD_DECK = 1 };
 
-/// `TOLSTRAT.EXE PATH [--csv FILE] [--quiet] [--threads N]`: solves the deck PATH.DAT and leaves PATH.TXT and
-/// PATH.BED beside it. On a fault a sentence goes to the error stream and into the .TXT, there is no .BED, an
-/// older one included, and the status is BAD_DECK.
+/// `TOLSTRAT.EXE PATH [--csv FILE] [--csv-moduli FILE] [--csv-damage FILE] [--quiet] [--threads N]`: solves
+/// the deck PATH.DAT and leaves PATH.TXT and PATH.BED beside it. On a fault a sentence goes to the error
+/// stream and into the .TXT, there is no .BED, an older one included, and the status is BAD_DECK.
 int runTolstrat(int argc, char** argv);

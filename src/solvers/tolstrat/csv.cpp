@@ -2,6 +2,10 @@
 
 #include <cstdio>
 #include <initializer_list>
+#include <map>
+#include <string>
+
+#include "solvers/tolstrat/loads.h"
 
 namespace {
 
@@ -17,18 +21,23 @@ void cells(std::ostream& out, bool wanted, std::initializer_list<double> values)
 
 }  // namespace
 
-void writeCsvHead(std::ostream& out) {
-    out << "set,period,group,point,x,y,z,w,sxx,syy,szz,sxy,sxz,syz,exx,eyy,ezz,exy,exz,eyz,s1,s2,s3,e1,e2,"
-           "e3\n";
+CsvTable::CsvTable(std::ostream& out, bool timed, const char* columnsBehindGroup) : out_(out), timed_(timed) {
+    out << "set,period,group," << (timed ? "time," : "") << columnsBehindGroup << '\n';
 }
 
-void writeCsvRows(std::ostream& out, const LayeredSet& set, int n, const GroupResult& group) {
-    const bool stresses = set.NSTD >= 5, strains = set.NSTD >= 9;
+std::ostream& CsvTable::row(int set, int period, int group, std::optional<double> time) {
+    out_ << set << ',' << period << ',' << group;
+    if (timed_) out_ << ',' << (time ? number(*time) : "");
+    return out_;
+}
+
+void writeResponseRows(CsvTable& table, const LayeredSet& set, int n, const GroupResult& group) {
+    const bool stresses = responsesOf(set) >= 5, strains = responsesOf(set) >= 9;
     auto response = group.result.responses.begin();
     for (std::size_t point = 0; point < group.points.size(); ++point) {
         for (const auto& depth : group.depths) {
             const auto& [w, s, e, ps, pe, converged] = *response++;
-            out << n << ',' << group.period << ',' << group.group << ',' << point + 1;
+            std::ostream& out = table.row(n, group.period, group.group, group.time) << ',' << point + 1;
             cells(out, true, {group.points[point].x, group.points[point].y, depth.z, w});
             cells(out, stresses, {s.xx, s.yy, s.zz, s.xy, s.xz, s.yz});
             cells(out, strains, {e.xx, e.yy, e.zz, e.xy, e.xz, e.yz});
@@ -36,5 +45,34 @@ void writeCsvRows(std::ostream& out, const LayeredSet& set, int n, const GroupRe
             cells(out, strains, {pe[0], pe[1], pe[2]});
             out << '\n';
         }
+    }
+}
+
+void writeModuliRows(CsvTable& table, int n, const Viscoelasticity& creep, const GroupResult& group) {
+    std::map<int, double> moduli;  // by layer
+    for (const ViscousLayer& l : creep.layers)
+        moduli[l.layer] = group.moduli[static_cast<std::size_t>(l.layer - 1)];
+    for (int iteration = 0; iteration <= group.iterations.count(); ++iteration) {
+        for (std::size_t k = 0; k < group.nonlinear.size(); ++k)
+            moduli[group.nonlinear[k].layer] =
+                group.iterations.moduli[static_cast<std::size_t>(iteration)][k];
+        for (const auto& [layer, modulus] : moduli)
+            table.row(n, group.period, group.group, group.time)
+                << ',' << iteration << ',' << layer << ',' << number(modulus) << '\n';
+    }
+}
+
+void writeDamageRows(CsvTable& table, const LayeredSet& set, int n, const GroupDamage& group) {
+    const auto locations = damageLocations(set);
+    for (std::size_t j = 0; j < locations.size(); ++j) {
+        const auto axle = [&](int which, const AxleDamage& damage) {
+            std::ostream& out = table.row(n, group.period, group.group, group.time)
+                                << ',' << which << ',' << j + 1 << ',' << locations[j].layer << ','
+                                << (locations[j].kind == DamageKind::Bottom ? "bottom" : "top");
+            cells(out, true, {damage.strain, damage.allowed, damage.ratio});
+            out << '\n';
+        };
+        axle(1, group.locations[j].primary);
+        if (group.locations[j].secondary) axle(2, *group.locations[j].secondary);
     }
 }

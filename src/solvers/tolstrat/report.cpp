@@ -3,52 +3,28 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <string_view>
 
 #include "plots/bed_file.h"
+#include "solvers/tolstrat/damage_report.h"
+#include "solvers/tolstrat/loads.h"
+#include "solvers/tolstrat/materials_report.h"
+#include "solvers/tolstrat/plot_file.h"
+#include "solvers/tolstrat/report_lines.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {
 
 using layered_theory::Response;
 
-constexpr const char* LINE_END = "\r\n";
-
-template <class... Values>
-std::string printed(const char* pattern, Values... values) {
-    std::array<char, 256> text;
-    std::snprintf(text.data(), text.size(), pattern, values...);
-    return text.data();
-}
-
-int count(double value) { return static_cast<int>(value); }
-
-std::string cell(double value) { return printed(" %12.5g", value); }
-
-void line(std::ostream& out, const std::string& text = "") { out << text << LINE_END; }
-
 /// Components below this share of the largest beside them are round-off and print as 0.
 constexpr double ROUND_OFF = 1e-12;
 
 bool smaller(double a, double b) { return std::abs(a) < std::abs(b); }
 
-/// A row of numbers under a name, continued below itself after `perLine`.
-void row(std::ostream& out, const std::string& name, int first, int last, auto value, int perLine = 8) {
-    std::string text = printed("  %-34s", name.c_str());
-    for (int i = first; i <= last; ++i) {
-        if (i > first && (i - first) % perLine == 0) {
-            line(out, text);
-            text = std::string(36, ' ');
-        }
-        text += printed(" %.7g", static_cast<double>(value(i)));
-    }
-    line(out, text);
-}
-
-void item(std::ostream& out, const std::string& name, double value, const std::string& note = "") {
-    line(out, printed("  %-34s %.7g", name.c_str(), value) + (note.empty() ? "" : "   " + note));
-}
+constexpr std::array<const char*, 4> MATERIAL_WORDS = {"all layers linear elastic", "nonlinear layers",
+                                                       "viscoelastic layers",
+                                                       "nonlinear and viscoelastic layers"};
 
 constexpr std::array<const char*, 4> LOAD_WORDS = {"single axle, single tire", "single axle, dual tires",
                                                    "tandem axles", "tridem axles"};
@@ -129,12 +105,12 @@ void writeHeading(std::ostream& out, const std::string& deck, int dataSets) {
     line(out, "TOLSTRAT " TOLMARK_VERSION ": stresses, strains and displacements of layered pavements");
     line(out, "Deck: " + deck);
     line(out, printed("Data sets: %d", dataSets));
-    line(out, "Linear elastic layers, last one infinite; circular uniform vertical loads, superposed.");
+    line(out, "Elastic layers, last one infinite; circular uniform vertical loads, superposed.");
     line(out, "Compression and downward displacement are positive; shear strains are tensor components.");
     line(out, "At an interface the values are those at the bottom of the upper layer.");
 }
 
-void writeEcho(std::ostream& out, const LayeredSet& set, int n) {
+void writeEcho(std::ostream& out, const LayeredSet& set, int n, const Viscoelasticity& creep) {
     const Units& units = unitsOf(set.NUNIT);
     const int layers = count(set.NL);
     line(out);
@@ -142,15 +118,16 @@ void writeEcho(std::ostream& out, const LayeredSet& set, int n) {
     line(out, printed("Data set %d: ", n) + set.TITLE);
     line(out);
     line(out, std::string("Input, units: ") + units.length + ", " + units.stress);
-    item(out, "Material type MATL", set.MATL, "all layers linear elastic");
+    item(out, "Material type MATL", set.MATL, MATERIAL_WORDS.at(static_cast<std::size_t>(set.MATL - 1)));
     item(out, "Periods NPY", set.NPY);
     item(out, "Load groups NLG", set.NLG);
     item(out, "Tolerance of integration DEL", set.DEL);
     item(out, "Maximum cycles ICL", set.ICL);
+    const double responses = responsesOf(set);
     item(out, "Responses NSTD", set.NSTD,
-         set.NSTD == 1   ? "displacements"
-         : set.NSTD == 5 ? "displacements, stresses"
-                         : "displacements, stresses, strains");
+         responses == 1   ? "displacements"
+         : responses == 5 ? "displacements, stresses"
+                          : "displacements, stresses, strains");
     item(out, "Layers NL", layers);
     row(out, std::string("Thickness TH, ") + units.length, 1, layers - 1,
         [&](int i) { return set.LAYER[i].TH.number(); });
@@ -164,23 +141,29 @@ void writeEcho(std::ostream& out, const LayeredSet& set, int n) {
         row(out, printed("Modulus E of period %d, ", period) + units.stress, 1, layers,
             [&](int i) { return set.EMOD[period][i].number(); });
     }
-    row(out, std::string("Depths ZC, ") + units.length, 1, count(set.NZ),
-        [&](int i) { return set.ZC[i].number(); });
+    if (set.NDAMA == 0)
+        row(out, std::string("Depths ZC, ") + units.length, 1, count(set.NZ),
+            [&](int i) { return set.ZC[i].number(); });
     for (int group = 1; group <= count(set.NLG); ++group) writeLoadEcho(out, set, group, units);
+    writeMaterialEcho(out, set, creep);
+    if (set.NDAMA > 0) writeDamageEcho(out, set);
 }
 
-void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& group) {
+void writeResults(std::ostream& out, const LayeredSet& set, const Viscoelasticity& creep,
+                  const GroupResult& group) {
     const Units& units = unitsOf(set.NUNIT);
     line(out);
     line(out, std::string(78, '-'));
-    line(out, printed("Period %d, load group %d: %d cycles of integration", group.period, group.group,
-                      group.result.cycles));
+    line(out,
+         printed("Period %d, load group %d%s: %d cycles of integration", group.period, group.group,
+                 group.time ? printed(", time %.7g sec", *group.time).c_str() : "", group.result.cycles));
     if (!group.result.converged) {
         line(out,
              printed("*** ICL = %d cycles were reached before the tolerance DEL was met: rows marked * are "
                      "less accurate. Raise ICL. ***",
                      count(set.ICL)));
     }
+    writeModuli(out, set, creep, group);
 
     line(out);
     line(out, std::string("Vertical displacement w, ") + units.length);
@@ -190,7 +173,7 @@ void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& g
     });
 
     for (const Block& block : BLOCKS) {
-        if (set.NSTD < block.fromNstd) continue;
+        if (responsesOf(set) < block.fromNstd) continue;
         line(out);
         line(out, block.title + (block.stress ? std::string(", ") + units.stress : ""));
         std::string head = PLACE_HEAD;
@@ -204,6 +187,7 @@ void writeResults(std::ostream& out, const LayeredSet& set, const GroupResult& g
             line(out, text + (response.converged ? "" : " *"));
         });
     }
+    if (set.NDAMA == 2) writeDamageDetail(out, set, group);
 }
 
 void writePlotNotes(std::ostream& out, const LayeredSet& set) {
@@ -215,6 +199,12 @@ void writePlotNotes(std::ostream& out, const LayeredSet& set) {
                      "Note: load group %d has more than %d radial coordinates, which the plot cannot show.",
                      group, BedProblem::RADIAL_POINTS));
         }
+    }
+    if (!fitsPlotFile(set)) {
+        line(out);
+        line(out, printed("Note: NLBT and NLTC together are more than %d locations, which a plot file cannot "
+                          "hold: there is none.",
+                          PLOTTED_LOCATIONS));
     }
     if (set.NL == 1) {
         line(out);

@@ -4,75 +4,10 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <map>
-#include <sstream>
 
-#include "plots/bed_file.h"
-#include "solvers/tolstrat/command.h"
-#include "support/temporary_directory.h"
+#include "solvers/tolstrat/run_tolstrat.h"
 
 namespace {
-
-std::string example(const std::string& name) {
-    std::ifstream file(std::string(TOLMARK_SOURCE_DIR "/examples/") + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// Replaces the line that ends in `label`; the deck must have it.
-std::string withCard(std::string deck, const std::string& label, const std::string& values) {
-    const std::size_t end = deck.find(label + "\r\n");
-    EXPECT_NE(end, std::string::npos) << label;
-    const std::size_t start = deck.rfind('\n', end) + 1;
-    return deck.replace(start, end - start, values);
-}
-
-struct Outcome {
-    int status;
-    std::string output, errors;
-};
-
-Outcome run(std::vector<std::string> arguments) {
-    arguments.insert(arguments.begin(), "TOLSTRAT.EXE");
-    std::vector<char*> argv;
-    for (auto& argument : arguments) argv.push_back(argument.data());
-    testing::internal::CaptureStdout();
-    testing::internal::CaptureStderr();
-    const int status = runTolstrat(static_cast<int>(argv.size()), argv.data());
-    return {status, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
-}
-
-using Row = std::map<std::string, std::string>;
-
-std::vector<Row> csvRows(const std::string& text) {
-    const auto split = [](std::string line) {
-        std::vector<std::string> cells(1);
-        for (char c : line) c == ',' ? cells.emplace_back() : cells.back() += c, void();
-        return cells;
-    };
-    std::istringstream lines(text);
-    std::string line;
-    std::getline(lines, line);
-    const auto heads = split(line);
-    std::vector<Row> rows;
-    while (std::getline(lines, line)) {
-        const auto cells = split(line);
-        EXPECT_EQ(cells.size(), heads.size());
-        for (std::size_t i = 0; i < heads.size(); ++i) {
-            if (i == 0) rows.emplace_back();
-            rows.back()[heads[i]] = cells.at(i);
-        }
-    }
-    return rows;
-}
-
-std::vector<Row> solveToCsv(const TemporaryDirectory& folder, const std::string& deck) {
-    folder.write("a road.DAT", deck);
-    const Outcome done = run({folder.path() + "a road", "--csv", folder.path() + "out.csv", "--quiet"});
-    EXPECT_EQ(done.status, SOLVED) << done.errors;
-    return csvRows(folder.read("out.csv"));
-}
-
-double number(const Row& row, const std::string& column) { return std::stod(row.at(column)); }
 
 /// A deck of three equal layers under a single wheel, radius 6, pressure 100, with points at r = 0.
 const std::string HALF_SPACE_IN_LAYERS =
@@ -192,15 +127,22 @@ TEST(Tolstrat, ComesOutTheSameOnAnyNumberOfThreads) {
     const std::string group = deck.substr(deck.find(" 0   (13) LOAD"));
     deck = withCard(deck, " (3) MATL NDAMA NPY NLG", " 1  0  2  5 ");
     for (int i = 0; i < 4; ++i) deck += group;
-    const TemporaryDirectory folder;
-    folder.write("road.DAT", deck);
-    std::vector<std::string> outputs;
-    for (const char* threads : {"1", "2", "7"}) {
-        ASSERT_EQ(run({folder.path() + "road", "--quiet", "--threads", threads}).status, SOLVED);
-        outputs.push_back(folder.read("road.TXT") + folder.read("road.BED"));
+    for (const std::string& each : {deck, example("BED3.DAT"), example("BED6.DAT")}) {
+        const TemporaryDirectory folder;
+        const std::string path = folder.path();
+        folder.write("road.DAT", each);
+        std::vector<std::string> outputs;
+        for (const char* threads : {"1", "2", "7"}) {
+            ASSERT_EQ(run({path + "road", "--quiet", "--threads", threads, "--csv", path + "r.csv",
+                           "--csv-moduli", path + "m.csv"})
+                          .status,
+                      SOLVED);
+            outputs.push_back(folder.read("road.TXT") + folder.read("road.BED") + folder.read("r.csv") +
+                              folder.read("m.csv"));
+        }
+        EXPECT_EQ(outputs[0], outputs[1]);
+        EXPECT_EQ(outputs[0], outputs[2]);
     }
-    EXPECT_EQ(outputs[0], outputs[1]);
-    EXPECT_EQ(outputs[0], outputs[2]);
 }
 
 TEST(Tolstrat, RefusesBadDecksInOneSentence) {

@@ -1,4 +1,6 @@
-#include "solvers/tolstrat/linear.h"
+#include "solvers/tolstrat/loads.h"
+
+#include "solvers/tolstrat/damage.h"
 
 namespace {
 
@@ -37,6 +39,10 @@ std::vector<layered_theory::Position> pointsOf(const LayeredSet& set, int group)
 
 std::vector<layered_theory::Depth> depthsOf(const LayeredSet& set) {
     std::vector<layered_theory::Depth> depths;
+    if (set.NDAMA > 0) {
+        for (const DamageLocation& l : damageLocations(set)) depths.push_back({l.z, l.layer - 1});
+        return depths;
+    }
     for (int i = 1; i <= count(set.NZ); ++i) depths.push_back({set.ZC[i].number()});
     return depths;
 }
@@ -52,19 +58,4 @@ layered_theory::Structure structureOf(const LayeredSet& set, int period) {
     return structure;
 }
 
-std::vector<GroupResult> solveLinearGroup(const LayeredSet& set, int group) {
-    std::vector<layered_theory::Structure> structures;
-    for (int period = 1; period <= count(set.NPY); ++period) {
-        structures.push_back(structureOf(set, period));
-    }
-    const auto points = pointsOf(set, group);
-    const auto depths = depthsOf(set);
-    const layered_theory::Control control{set.DEL, count(set.ICL)};
-
-    std::vector<GroupResult> results;
-    int period = 0;
-    for (auto& result : layered_theory::solve(structures, wheelsOf(set, group), points, depths, control)) {
-        results.push_back({++period, group, points, depths, std::move(result)});
-    }
-    return results;
-}
+double responsesOf(const LayeredSet& set) { return set.NDAMA > 0 ? 9 : set.NSTD; }

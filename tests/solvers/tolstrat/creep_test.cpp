@@ -1,0 +1,138 @@
+// Creep: the series and its superposition by brute force, viscoelastic half-spaces by closed form.
+#include "solvers/tolstrat/creep.h"
+
+#include <numbers>
+
+#include "solvers/tolstrat/run_tolstrat.h"
+#include "support/layered_roads.h"
+
+namespace {
+
+const std::vector<double> HALF_DECADES = {.001, .003, .01, .03, .1, .3, 1, 3, 10, 30, 100};
+
+/// The step response f superposed with sin^2(pi t / duration) at its peak, by summation over 20000 steps.
+double superposedByBruteForce(double duration, const std::function<double(double)>& f) {
+    constexpr int STEPS = 20000;
+    const double step = duration / 2 / STEPS, rate = std::numbers::pi / duration;
+    const auto load = [&](double t) { return std::pow(std::sin(rate * t), 2); };
+    double sum = 0;
+    for (int i = 0; i < STEPS; ++i)
+        sum += f(duration / 2 - (i + .5) * step) * (load((i + 1) * step) - load(i * step));
+    return sum;
+}
+
+double superposed(const std::vector<double>& times, double duration, const std::function<double(double)>& f) {
+    const auto weights = Collocation(times).peakWeights(duration);
+    double sum = 0;
+    for (std::size_t i = 0; i < times.size(); ++i) sum += weights[i] * f(times[i]);
+    return sum;
+}
+
+TEST(Creep, PeakOfAPulseAgreesWithBruteForce) {
+    for (const double duration : {.01, .1, 1.}) {
+        // A pulse among the first times sees the beginning of the power law, which the series has to guess.
+        const double tolerance = duration > .01 ? 3e-4 : 1e-3;
+        for (const double exponent : {.2, .4, .6}) {
+            const auto power = [&](double t) { return .2 + std::pow(t, exponent); };
+            const double expected = superposedByBruteForce(duration, power);
+            EXPECT_NEAR(superposed(HALF_DECADES, duration, power), expected, tolerance * expected)
+                << duration << " sec, exponent " << exponent;
+        }
+        // A term of the series is followed exactly.
+        const auto exponential = [](double t) { return 2 - std::exp(-t / std::sqrt(.3 * .1)); };
+        EXPECT_NEAR(superposed(HALF_DECADES, duration, exponential),
+                    superposedByBruteForce(duration, exponential), 1e-8);
+    }
+    EXPECT_EQ(superposed({.1}, .1, [](double) { return 3; }), 3) << "a single time has no creep";
+}
+
+TEST(Creep, FitsWhatIsGivenAndSaysHowWell) {
+    const Collocation collocation(HALF_DECADES);
+    std::vector<double> power, straight;
+    for (const double t : HALF_DECADES) power.push_back(1e-6 * std::pow(t, .4)), straight.push_back(2e-6);
+    const DirichletSeries series = collocation.fit(power);
+    for (std::size_t i = 0; i < power.size(); ++i)
+        EXPECT_NEAR(series.at(HALF_DECADES[i]), power[i], 1e-10 * power[i]);
+    double worst = 0;
+    for (double t = .001; t <= 100; t *= 1.01)
+        worst = std::max(worst, std::abs(series.at(t) / (1e-6 * std::pow(t, .4)) - 1));
+    EXPECT_NEAR(collocation.largestError(power), worst, .02 * worst);
+    EXPECT_LT(collocation.largestError(straight), 1e-9);
+
+    EXPECT_TRUE(collocation.determined());
+    const std::vector<double> close = {.01, .1, .1000001, 1};
+    const Collocation undetermined(close);
+    EXPECT_FALSE(undetermined.determined());
+    EXPECT_NEAR(undetermined.fit(std::vector{1e-6, 3e-6, 3e-6, 5e-6}).at(.1), 3e-6, 1e-9);
+}
+
+TEST(Creep, StationaryHalfSpaceFollowsTheCompliance) {
+    ExponentialCreep creep;
+    creep.tau = std::sqrt(.3 * 1);  // a term of the series, which then is the creep itself
+    const auto store = viscousHalfSpace(0, HALF_DECADES, creep);
+    store->layered[1].NPY = 2;
+    store->layered[1].TEMP[2][1] = store->layered[1].TEMP[2][2] = 80.0;  // BETA .1: ten times as fast
+    const Solved solved = solveStore(*store);
+    ASSERT_EQ(solved.outcome.status, SOLVED) << solved.outcome.errors;
+    ASSERT_EQ(solved.responses.size(), 22U);
+    for (const Row& row : solved.responses) {
+        const double t = number(row, "time") * (number(row, "period") == 2 ? 10 : 1);
+        EXPECT_NEAR(number(row, "w"), centreDeflection(creep.at(t)), 1e-5 * number(row, "w")) << t;
+    }
+    EXPECT_NE(solved.text.find("count as 0.01 to 1000 sec, which leaves the times given"), std::string::npos);
+    EXPECT_EQ(solved.text.find("Period 1: log10"), std::string::npos);
+    EXPECT_NEAR(
+        number(rowsWhere(solved.moduli, {{"period", 1}, {"time", .1}, {"layer", 2}}).at(0), "modulus"),
+        1 / creep.at(.1), 1e-6 / creep.at(.1));
+}
+
+TEST(Creep, MovingLoadOnAHalfSpaceAgreesWithTheConvolution) {
+    struct Case {
+        double duration, tau, tolerance;
+    };
+    // The last two: a load too quick for any creep, and one so slow that all creep is over.
+    for (const Case& test : {Case{.1, std::sqrt(.3 * 1), 1e-5},
+                             {.1, .07, 5e-3},
+                             {1, .4, 5e-3},
+                             {1e-6, 1, 5e-3},
+                             {1e6, std::sqrt(.3 * 1), 1e-5}}) {
+        ExponentialCreep creep;
+        creep.tau = test.tau;
+        const Solved solved = solveStore(*viscousHalfSpace(test.duration, HALF_DECADES, creep));
+        ASSERT_EQ(solved.outcome.status, SOLVED) << solved.outcome.errors;
+        const double D = superposedByBruteForce(test.duration, [&](double t) { return creep.at(t); });
+        const Row& row = solved.responses.at(0);
+        EXPECT_EQ(row.count("time"), 0U);
+        EXPECT_NEAR(number(row, "w"), centreDeflection(D), test.tolerance * centreDeflection(D))
+            << test.duration << " sec, tau " << test.tau;
+        EXPECT_NEAR(number(solved.moduli.at(0), "modulus") * D, 1, test.tolerance);
+        EXPECT_NEAR(number(row, "szz"), 50, 1e-4) << "the load itself is at its peak";
+    }
+}
+
+TEST(Creep, TimesAreToldOfStationaryDataSetsOnly) {
+    const auto store = viscousHalfSpace(0, {.1, 1, 10}, {});
+    store->NPROB = 2;
+    store->layered[2] = threeLayerStore()->layered[1];
+    const Solved solved = solveStore(*store);
+    ASSERT_EQ(solved.outcome.status, SOLVED) << solved.outcome.errors;
+    EXPECT_EQ(rowsWhere(solved.responses, {{"set", 1}}).back().at("time"), "10");
+    EXPECT_EQ(rowsWhere(solved.responses, {{"set", 2}}).at(0).at("time"), "");
+    EXPECT_TRUE(rowsWhere(solved.moduli, {{"set", 2}}).empty());
+}
+
+TEST(Creep, SaysWhatASeriesCannotDo) {
+    const auto store = viscousHalfSpace(.1, {.1, 1}, {});
+    for (int n = 1; n <= 2; ++n) store->layered[1].CREEP[n][1] = 1e-6F, store->layered[1].CREEP[n][2] = 1e-4F;
+    store->layered[1].TEMP[1][2] = -60.0;
+    const Solved solved = solveStore(*store);
+    EXPECT_EQ(solved.outcome.status, BAD_DECK);
+    EXPECT_NE(solved.outcome.errors.find("card (44), data set 1"), std::string::npos)
+        << solved.outcome.errors;
+
+    const Solved close = solveStore(*viscousHalfSpace(.1, {.01, .1, .1000001, 1}, {}));
+    EXPECT_EQ(close.outcome.status, SOLVED);
+    EXPECT_NE(close.text.find("lie too close together"), std::string::npos);
+}
+
+}  // namespace
