@@ -8,8 +8,10 @@
 #include "platform/qt/batch.h"
 #include "platform/qt/page_renderer.h"
 #include "platform/run_time_error.h"
+#include "plots/contour_plot.h"
 #include "plots/layered_plot.h"
 #include "plots/plot_name.h"
+#include "plots/slab_plot.h"
 #include "program/desktop_program.h"
 #include "store/deck_kind.h"
 #include "store/store.h"
@@ -48,6 +50,7 @@ int solve(const std::string& name, const std::string& programDirectory,
 
 struct PlotRequest {
     std::string deck, pdf, svg, png;
+    bool contour = false;
     int page = 0;  ///< 0: all of them
     int dpi = 150;
 };
@@ -61,15 +64,52 @@ std::string pageName(const std::string& name, std::size_t number, std::size_t to
         .string();
 }
 
-/// Pages build on each other, so those before the wanted one are always built.
-std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
-    LayeredPlot plot(resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", ".BED")));
+/// The deck's plot file with this extension.
+std::string plotFile(const std::string& deck, const std::string& extension) {
+    return resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", extension));
+}
+
+/// A deck that does not tell its kind, or is not there, is a slab deck if there is only a slab plot file.
+bool isSlabDeck(const std::string& deck) {
+    const bool there = std::filesystem::exists(deck);
+    const DeckKind kind = there ? deckKind(deck) : DeckKind::Unknown;
+    if (kind != DeckKind::Unknown) return kind == DeckKind::Slab;
+    return std::filesystem::exists(plotFile(deck, ".PAN")) &&
+           !std::filesystem::exists(plotFile(deck, ".BED"));
+}
+
+/// Pages build on each other, so those before the wanted one are always built. `nextPage` gives one after
+/// the other, nothing behind the last.
+template <class NextPage>
+std::vector<Page> wantedPages(const PlotRequest& request, NextPage nextPage) {
     std::vector<Page> pages;
-    for (int number = 1; auto page = plot.next(); ++number) {
+    for (int number = 1; std::optional<Page> page = nextPage(); ++number) {
         if (request.page == 0 || request.page == number) pages.push_back(std::move(*page));
         if (request.page == number) break;
     }
     return pages;
+}
+
+/// Contours take the interval that is proposed.
+std::vector<Page> contourPages(const PlotRequest& request, const std::string& deck) {
+    int DIRN = 0;
+    ContourPlot plot(plotFile(deck, ".PAN"), DIRN);
+    const auto accept = [](const auto&, const auto&, const std::string& proposal) { return proposal; };
+    return wantedPages(request, [&]() -> std::optional<Page> {
+        auto sheet = plot.next(accept);
+        if (!sheet) return std::nullopt;
+        return std::move(sheet->page);
+    });
+}
+
+std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
+    if (request.contour) return contourPages(request, deck);
+    if (isSlabDeck(deck)) {
+        SlabPlot plot(plotFile(deck, ".PAN"));
+        return wantedPages(request, [&] { return plot.next(); });
+    }
+    LayeredPlot plot(plotFile(deck, ".BED"));
+    return wantedPages(request, [&] { return plot.next(); });
 }
 
 int plot(const PlotRequest& request) {
@@ -80,6 +120,8 @@ int plot(const PlotRequest& request) {
     } catch (const RunTimeError& error) {
         return fail(deck, error.fault() == Fault::FileNotFound ? "no plot file; solve the deck first"
                                                                : std::string("Data error: ") + error.what());
+    } catch (const NoContours& reason) {
+        return fail(deck, reason.what());
     }
     if (pages.empty()) return fail(deck, "the plot has no page " + std::to_string(request.page));
 
@@ -116,6 +158,7 @@ int runCommandLine(int argc, char** argv) {
     targets->add_option("--svg", request.svg, "one SVG file a page, numbered when there are several");
     targets->add_option("--png", request.png, "one PNG file a page, numbered when there are several");
     targets->require_option(1, 3);
+    plotCommand->add_flag("--contour", request.contour, "the contour plot of a slab deck");
     plotCommand->add_option("--page", request.page, "only this page")->check(CLI::PositiveNumber);
     plotCommand->add_option("--dpi", request.dpi, "resolution of PNG files")->check(CLI::Range(20, 1200));
 

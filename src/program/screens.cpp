@@ -4,6 +4,8 @@
 #include "layered/frm_layered.h"
 #include "platform/qt/form.h"
 #include "plots/frm_bedplot.h"
+#include "plots/frm_contour.h"
+#include "plots/frm_panplot.h"
 #include "store/frm_tolmark.h"
 
 namespace {
@@ -20,4 +22,6 @@ void addScreens(Screens& screens, Program& program) {
     addLayeredForms(program);
     addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+    screens.add("frmPANPLOT", make<frmPANPLOT>(program));
+    screens.add("frmCONTOUR", make<frmCONTOUR>(program));
 }
