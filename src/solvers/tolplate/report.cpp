@@ -159,6 +159,10 @@ void writeDamage(std::ostream& out, const SlabSet& set, const plate::Solution& s
             line(out, text + cell(set.TNLR[p][g].number()) + cell(d.index));
         }
     }
+    line(out,
+         "The index counts one cycle from 0 to the largest tension, which the ratio is of, and for each "
+         "further");
+    line(out, "axle one from the valley between the axles.");
     row(out, "Index of each slab layer in a year", 1, set.NLAYER,
         [&](int k) { return sum.layers[static_cast<std::size_t>(k - 1)]; });
     item(out, "Design life, years", sum.life,
