@@ -31,21 +31,28 @@ std::string deckFile(const std::string& name) {
     return resolveName(withDatExtension(path));
 }
 
+/// The executable of the solver that decks of this kind are for, nullptr for none.
+const char* solverOf(DeckKind kind) {
+    switch (kind) {
+        case DeckKind::Layered:
+            return "TOLSTRAT.EXE";
+        case DeckKind::Slab:
+            return "TOLPLATE.EXE";
+        case DeckKind::Unknown:
+            break;
+    }
+    return nullptr;
+}
+
 /// Runs the solver that the deck is for and waits for it.
 int solve(const std::string& name, const std::string& programDirectory,
           const std::vector<std::string>& options) {
     const std::string deck = deckFile(name);
-    switch (deckKind(deck)) {
-        case DeckKind::Layered:
-            break;
-        case DeckKind::Slab:
-            return fail(deck, "slab decks cannot be solved so far");
-        case DeckKind::Unknown:
-            return fail(deck, "this is neither a layered nor a slab deck");
-    }
+    const char* solver = solverOf(deckKind(deck));
+    if (!solver) return fail(deck, "this is neither a layered nor a slab deck");
     std::vector<std::string> arguments{deck.substr(0, deck.size() - 4)};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    return runAndWait(programDirectory + "/TOLSTRAT.EXE", arguments);
+    return runAndWait(programDirectory + "/" + solver, arguments);
 }
 
 struct PlotRequest {

@@ -10,7 +10,7 @@
 #include "solvers/tolstrat/loads.h"
 #include "solvers/tolstrat/materials_report.h"
 #include "solvers/tolstrat/plot_file.h"
-#include "solvers/tolstrat/report_lines.h"
+#include "solvers/report_lines.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {
