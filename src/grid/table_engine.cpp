@@ -40,6 +40,7 @@ TableEngine::TableEngine(Store& store, const TableForm& form)
     } else {
         store.GridRows = ToInteger(Double(lines) + 1);
     }
+    if (entry_.onLoad) entry_.onLoad(store, place_);
     BuildGrid(lines);
     if (form.mainTable) {
         moveTo(place_.group < Rows() - 1 ? place_.group + 1 : 1, 1);
@@ -83,9 +84,16 @@ void TableEngine::BuildGrid(int lines) {
 /// Column 0 and the crossed-out cell: they belong to places, not to the texts that move with their lines.
 void TableEngine::labelRows() {
     for (int line = 1; line <= lines(); ++line) {
-        cell(line, 0) = entry_.rowLabel ? storedText(entry_.rowLabel, line) : std::to_string(line);
+        cell(line, 0) = rowLabel(line);
         if (isCrossed(line, 1)) cell(line, 1) = crossedOut;
     }
+}
+
+std::string TableEngine::rowLabel(int line) {
+    if (entry_.rowLabel) return storedText(entry_.rowLabel, line);
+    if (!entry_.rowNames) return std::to_string(line);
+    const auto& names = *entry_.rowNames;
+    return static_cast<std::size_t>(line) <= names.size() ? names[static_cast<std::size_t>(line - 1)] : "";
 }
 
 /// Beyond the store a table shows zeros.
@@ -324,7 +332,7 @@ void TableEngine::storeCell(int line, int col, const std::vector<Single>& number
 
 std::string TableEngine::refusal(int line, int storedCol) {
     for (const TableTest& test : entry_.tests) {
-        if (test.after != storedCol) continue;
+        if (test.after != storedCol || (test.line != 0 && test.line != line)) continue;
         std::optional<Double> value;
         try {
             value = numberOf(column(test.column).field(store_, place_, line));
@@ -349,9 +357,10 @@ TableOutcome TableEngine::finish() {
     }
     if (!entry_.next.form) return outcome;
     restoreSelectors();
-    if (entry_.next.mainLines) {
+    if (entry_.next.mainLines || entry_.next.fixedLines != 0) {
         store_.MainCols = entry_.next.cols;
-        store_.MainLines = countOf(entry_.next.mainLines(store_, place_, 0));
+        store_.MainLines = entry_.next.mainLines ? countOf(entry_.next.mainLines(store_, place_, 0))
+                                                 : entry_.next.fixedLines;
     } else {
         store_.GridCols = ToInteger(Double(entry_.next.cols));
     }

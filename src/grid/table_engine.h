@@ -85,6 +85,7 @@ class TableEngine {
 
     void BuildGrid(int lines);
     void labelRows();
+    std::string rowLabel(int line);
     std::string storedText(TableFieldAt field, int line);
     void moveTo(int row, int col);
     void DeleteLine();

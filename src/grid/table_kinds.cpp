@@ -4,9 +4,18 @@
 
 #include "store/store.h"
 
+namespace {
+
+/// Kinds from 200 on belong to the slab side.
+bool isSlabKind(int kind) { return kind >= 200; }
+
+int Store::*currentSet(int kind) { return isSlabKind(kind) ? &Store::CurSlabDS : &Store::CurLayDS; }
+
+}  // namespace
+
 TablePlace currentPlace(const Store& store) {
     return {.kind = store.TableKind,
-            .dataSet = store.CurLayDS,
+            .dataSet = store.*currentSet(store.TableKind),
             .period = store.CurPeriod,
             .layer = store.CurLayer,
             .slab = store.CurSlab,
@@ -16,7 +25,7 @@ TablePlace currentPlace(const Store& store) {
 
 void restorePlace(Store& store, const TablePlace& place) {
     store.TableKind = place.kind;
-    store.CurLayDS = place.dataSet;
+    store.*currentSet(place.kind) = place.dataSet;
     store.CurPeriod = place.period;
     store.CurLayer = place.layer;
     store.CurSlab = place.slab;
@@ -25,14 +34,17 @@ void restorePlace(Store& store, const TablePlace& place) {
 }
 
 const TableEntry& tableEntry(Store& store, const std::string& form, const TablePlace& place, int cols) {
-    for (const TableEntry& entry : layeredTables()) {
+    for (const TableEntry& entry : isSlabKind(place.kind) ? slabTables() : layeredTables()) {
         if (entry.kind == place.kind && entry.form == form && (!entry.when || entry.when(store, place, cols)))
             return entry;
     }
     throw RunTimeError(Fault::InvalidCall, "no table " + std::to_string(place.kind) + " on " + form);
 }
 
-bool isSI(const Store& store, const TablePlace& place) { return store.layered[place.dataSet].NUNIT != 0; }
+bool isSI(const Store& store, const TablePlace& place) {
+    return isSlabKind(place.kind) ? store.slab[place.dataSet].NUNIT != 0
+                                  : store.layered[place.dataSet].NUNIT != 0;
+}
 
 std::string fillIn(const std::string& text, Store& store, const TablePlace& place, const TableEntry& entry,
                    bool signBlank) {
@@ -66,8 +78,10 @@ std::string shown(const Variant& value) {
 
 struct Shown {
     std::string operator()(const Variant* field) const { return shown(*field); }
-    std::string operator()(const Single* field) const { return Str(*field); }
-    std::string operator()(const Integer* field) const { return Str(*field); }
+    template <class Number>
+    std::string operator()(const Number* field) const {
+        return Str(*field);
+    }
 };
 
 struct PutText {
@@ -75,6 +89,7 @@ struct PutText {
     void operator()(Variant* field) const { *field = Variant(text); }
     void operator()(Single* field) const { *field = ToSingle(text); }
     void operator()(Integer* field) const { *field = ToInteger(text); }
+    void operator()(Double* field) const { *field = ToDouble(text); }
 };
 
 struct PutNumber {
@@ -82,6 +97,7 @@ struct PutNumber {
     void operator()(Variant* field) const { *field = Variant(value); }
     void operator()(Single* field) const { *field = value; }
     void operator()(Integer* field) const { *field = ToInteger(Double{value}); }
+    void operator()(Double* field) const { *field = value; }
 };
 
 struct PutCount {
@@ -89,6 +105,7 @@ struct PutCount {
     void operator()(Variant* field) const { *field = Variant(count); }
     void operator()(Single* field) const { *field = static_cast<Single>(count); }
     void operator()(Integer* field) const { *field = ToInteger(Double(count)); }
+    void operator()(Double* field) const { *field = count; }
 };
 
 struct NumberOf {
@@ -97,8 +114,10 @@ struct NumberOf {
         if (!field->isNumeric()) return std::nullopt;
         return field->number();
     }
-    std::optional<Double> operator()(const Single* field) const { return *field; }
-    std::optional<Double> operator()(const Integer* field) const { return *field; }
+    template <class Number>
+    std::optional<Double> operator()(const Number* field) const {
+        return *field;
+    }
 };
 
 }  // namespace

@@ -15,14 +15,14 @@ struct Store;
 /// Where a table belongs: the shared selectors as they stood when it was loaded.
 struct TablePlace {
     int kind = 0;
-    int dataSet = 0;
+    int dataSet = 0;  ///< of the side that the kind belongs to
     int period = 0, layer = 0, slab = 0;
     int group = 0;   ///< line of the main table, for its auxiliary table
     int topRow = 0;  ///< first visible row of the main table
 };
 
 /// A cell's or a count's home in the store. Free-value fields are Variants.
-using TableField = std::variant<Variant*, Single*, Integer*>;
+using TableField = std::variant<Variant*, Single*, Integer*, Double*>;
 /// The field of a line (from 1). SubscriptOutOfRange beyond the store.
 using TableFieldAt = TableField (*)(Store&, const TablePlace&, int line);
 
@@ -40,6 +40,7 @@ struct TableTest {
     Bad bad;
     Double limit;
     const char* message;
+    int line = 0;  ///< the one line that is tested; 0: every line
 };
 
 struct StatusWord {
@@ -69,6 +70,7 @@ struct TableNext {
     const char* form = nullptr;
     int cols = 0;
     TableFieldAt mainLines = nullptr;  ///< for a main table
+    int fixedLines = 0;                ///< for a main table whose lines are always as many
 };
 
 struct TableOutcome;
@@ -94,6 +96,9 @@ struct TableEntry {
     bool crossesLast = false;         ///< the first cell of the last line is crossed out
     bool showsZeros = false;          ///< every cell starts as 0 instead of what is stored
     TableFieldAt rowLabel = nullptr;  ///< column 0, in place of the line number
+    /// Names of the lines in column 0, in place of the line number; lines beyond them have none.
+    std::optional<std::vector<const char*>> rowNames = {};
+    void (*onLoad)(Store&, const TablePlace&) = nullptr;
 
     TableFieldAt count = nullptr;
     std::vector<TableTest> tests = {};
@@ -135,8 +140,9 @@ int countOf(const TableField& field);
 /// The number that a table's own tests see: an empty text counts as 0, any other text is none.
 std::optional<Double> numberOf(const TableField& field);
 
-/// The entries of the layered side.
+/// The entries of the two sides.
 const std::vector<TableEntry>& layeredTables();
+const std::vector<TableEntry>& slabTables();
 
 /// A word of the unit row and the column over which it stands; column 0 is the word "Unit".
 struct UnitWord {

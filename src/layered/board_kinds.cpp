@@ -16,6 +16,12 @@ Variant slab(const Store& store, int set) {
     return store.slab[set].*count;
 }
 
+/// Grid lines of the slab whose button was clicked.
+template <auto count>
+Variant ofSlab(const Store& store, int set) {
+    return store.slab[set].SLAB[store.CurSlab].*count;
+}
+
 using L = LayeredSet;
 
 const BoardKind kinds[] = {
@@ -72,6 +78,28 @@ const BoardKind kinds[] = {
      .GridCols = 2,
      .caller = "frmDamage1",
      .label = "lblVolume",
+     .defaultsStand = false,
+     .layer = nullptr},
+    {.TableKind = 206,
+     .caption = "X Coordinates of Each Slab for Data Set No. ",
+     .helpPage = "frm_slabs_x",
+     .dataSet = &Store::CurSlabDS,
+     .live = slab<&SlabSet::NSLAB>,
+     .lines = ofSlab<&SlabSet::Slab::NX>,
+     .GridCols = 2,
+     .caller = "frmSlabData",
+     .label = "lblXcoord",
+     .defaultsStand = false,
+     .layer = nullptr},
+    {.TableKind = 207,
+     .caption = "Y Coordinates of Each Slab for Data Set No. ",
+     .helpPage = "frm_slabs_y",
+     .dataSet = &Store::CurSlabDS,
+     .live = slab<&SlabSet::NSLAB>,
+     .lines = ofSlab<&SlabSet::Slab::NY>,
+     .GridCols = 2,
+     .caller = "frmSlabData",
+     .label = "lblYcoord",
      .defaultsStand = false,
      .layer = nullptr},
     {.TableKind = 225,

@@ -1,4 +1,4 @@
-// The boards of periods and layers serve several tables, told apart by TableKind:
+// The boards of periods, layers and slabs serve several tables, told apart by TableKind:
 // what each of them shows, opens and reports.
 #pragma once
 
@@ -13,7 +13,7 @@ struct BoardKind {
     const char* helpPage;                           ///< of textPage()
     int Store::*dataSet;                            ///< the side's current data set
     Variant (*live)(const Store& store, int set);   ///< buttons with a caption
-    Variant (*lines)(const Store& store, int set);  ///< lines of the table behind a button
+    Variant (*lines)(const Store& store, int set);  ///< lines of the table behind the button chosen
     int GridCols;                                   ///< its columns; 0 where each button has its own
     const char *caller, *label;                     ///< the form and the label that OK sets to "done"
     bool defaultsStand;  ///< the words under the buttons are "default", not "input"

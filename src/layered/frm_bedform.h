@@ -3,48 +3,22 @@
 // the deck, and keeps up to five data sets.
 #pragma once
 
-#include <optional>
+#include "store/frm_deck_menu.h"
 
-#include "platform/dialogs.h"
-#include "platform/qt/menu_form.h"
-#include "store/program.h"
-
-class frmBEDFORM : public MenuForm {
+class frmBEDFORM : public FrmDeckMenu {
     Q_OBJECT
   public:
     explicit frmBEDFORM(Program& program);
-    void Form_Load() override;
-    bool queryUnload() override { return mayLeave(); }
 
   private:
-    enum class SaveState { Fresh = 0, Changed = 1, Saved = 2 };
+    static const Side side;
 
-    std::vector<MenuRow> menuRows();
-    QLayout* dataSetButtons();
-
-    void dataMenu_Click(std::size_t row);
-    void mnuNew_Click();
-    void mnuOpen_Click();
-    void mnuMohr_Click();
-    void optDataSet_Click(int n);
-    void cmdSave_Click();
-    void cmdSaveAs_Click();
-    void cmdExit_Click();
-
-    void open(const std::string& form);
-    void readDeck();
-    void showDataSets();
-    void ColorCode(int n);
-    bool errorFound();
-    void Save();
-    void cutFilePath();
-    void saveUnderDialogName();
-    bool mayLeave();
-    std::optional<FileAnswer> CMDialogBox(FileQuestion::Action action, const std::string& proposal);
-
-    Program& program_;
-    Store& store_;
-    SaveState SaveState_ = SaveState::Fresh;  ///< data menus count as changes, whatever is done in them
-    std::string FilePath;                     ///< of the deck: full after a reading, bare after a save
-    std::string DataDir;                      ///< directory of the deck, with "/" at its end
+    Double setCount() const override { return store_.NPROB; }
+    void setSetCount(int n) override { store_.NPROB = static_cast<Integer>(n); }
+    void newFile() override;
+    void makeDataSet(int n) override;
+    DeckReadResult readDeck(const std::string& path, const std::function<void()>& countRead) override;
+    void saveDeck(const std::string& path) override;
+    std::vector<std::string> ErrCheck() override;
+    void ColorCode(int n) override;
 };

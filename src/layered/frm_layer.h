@@ -6,7 +6,7 @@
 class frmLayer : public frmTableBoard {
     Q_OBJECT
   public:
-    explicit frmLayer(Program& program) : frmTableBoard("frmLayer", "Layer", program) {}
+    explicit frmLayer(Program& program) : frmTableBoard("frmLayer", "Layer", 12, program) {}
 
   private:
     std::string buttonCaption(int n) const override;

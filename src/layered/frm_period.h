@@ -6,7 +6,7 @@
 class frmPeriod : public frmTableBoard {
     Q_OBJECT
   public:
-    explicit frmPeriod(Program& program) : frmTableBoard("frmPeriod", "Period", program) {}
+    explicit frmPeriod(Program& program) : frmTableBoard("frmPeriod", "Period", 12, program) {}
 
   private:
     std::string buttonCaption(int n) const override;

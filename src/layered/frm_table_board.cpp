@@ -3,13 +3,7 @@
 #include "store/store.h"
 #include "text/pages.h"
 
-namespace {
-
-constexpr int buttons = 12;
-
-}  // namespace
-
-frmTableBoard::frmTableBoard(const std::string& name, const std::string& thing, Program& program)
+frmTableBoard::frmTableBoard(const std::string& name, const std::string& thing, int buttons, Program& program)
     : BoardForm(name, thing, buttons, program.dialogs, program.printer),
       program_(program),
       kind_(boardKind(program.store.TableKind)),

@@ -1,4 +1,4 @@
-// What the boards of periods and of layers share: they keep their kind and data
+// What the boards of periods, of layers and of slabs share: they keep their kind and data
 // set from their load, so that other screens may use the shared selectors while
 // they are open.
 #pragma once
@@ -10,7 +10,7 @@
 class frmTableBoard : public BoardForm {
     Q_OBJECT
   public:
-    frmTableBoard(const std::string& name, const std::string& thing, Program& program);
+    frmTableBoard(const std::string& name, const std::string& thing, int buttons, Program& program);
     void Form_Load() override;
 
   protected:

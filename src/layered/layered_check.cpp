@@ -43,6 +43,24 @@ bool isNonlinear(const LayeredSet& s, int layer) {
     return false;
 }
 
+/// The plot file holds moduli as whole numbers of this size.
+constexpr Double LARGEST_MODULUS = 2147483647;
+
+/// The work of the integration grows with the distance between wheel and point over the contact radius; what
+/// is farther away than this is a slip of the pen.
+constexpr Double FARTHEST_RADII = 10000;
+constexpr const char* NEAR_DEMAND = "the distance must be at most 10000 contact radii";
+
+bool isNear(const LayeredSet& s, int group, Double distance) {
+    return std::abs(distance) <= FARTHEST_RADII * s.LOADL[group].CR.number();
+}
+
+bool isNearAll(const LayeredSet& s, Double distance) {
+    for (int group = 1; group <= static_cast<int>(s.NLG); ++group)
+        if (!isNear(s, group, distance)) return false;
+    return true;
+}
+
 /// Damage is done by the strains at the points.
 Double leastPoints(const LayeredSet& s) { return s.NDAMA > 0 ? 1 : 0; }
 constexpr const char* POINTS_DEMAND = "there must be 0 to 25 points, for a damage analysis at least 1";
@@ -58,6 +76,7 @@ const ValueRule<Set> rules[] = {
     {5, "NL", HOLDS(isWhole(x, 1, 19)), "there must be 1 to 19 layers"},
     {5, "NZ", HOLDS(s.NDAMA > 0 || isWhole(x, 1, 19)), "there must be 1 to 19 depths"},
     {5, "ICL", HOLDS(x >= 1), "there must be 1 cycle of integration or more"},
+    {5, "ICL", HOLDS(x <= 32767), "there must be at most 32767 cycles of integration"},
     {5, "NSTD", HOLDS(x == 1 || x == 5 || x == 9), "NSTD must be 1, 5 or 9"},
     {6, "TH", HOLDS(x > 0), "the thickness must be greater than 0"},
     {7, "PR", HOLDS(x > -1 && x <= .5), "Poisson's ratio must be above -1 and at most .5"},
@@ -65,15 +84,21 @@ const ValueRule<Set> rules[] = {
     {10, "INT", HOLDS(x == 0 || x == 1), "INT must be 0 or 1"},
     {11, "E", HOLDS(x > 0 || isViscoelastic(s, at.k) || (x == 0 && isNonlinear(s, at.k))),
      "the modulus must be greater than 0"},
+    {11, "E", HOLDS(x <= LARGEST_MODULUS || isViscoelastic(s, at.k)), "the modulus must be below 2147483648"},
     {13, "LOAD", HOLDS(isWhole(x, 0, 3)), "LOAD must be 0, 1, 2 or 3"},
     {14, "CR", HOLDS(x > 0), "the contact radius must be greater than 0"},
     {14, "CP", HOLDS(x > 0), "the contact pressure must be greater than 0"},
     {16, "NR", HOLDS(isWhole(x, leastPoints(s), 25)), POINTS_DEMAND},
     {17, "RC", HOLDS(x >= 0), "the radial coordinate must not be negative"},
+    {17, "RC", HOLDS(isNear(s, at.i, x)), NEAR_DEMAND},
     {19, "NPT", HOLDS(isWhole(x, leastPoints(s), 25)), POINTS_DEMAND},
     {20, "XW", HOLDS(s.LOADL[at.i].LOAD.number() > 1 ? x > 0 : x >= 0),
      "the spacing of several axles must be greater than 0"},
     {20, "YW", HOLDS(x >= 0), "the spacing must not be negative"},
+    {20, "XW", HOLDS(isNear(s, at.i, x)), NEAR_DEMAND},
+    {20, "YW", HOLDS(isNear(s, at.i, x)), NEAR_DEMAND},
+    {20, "XPT", HOLDS(isNear(s, at.i, x)), NEAR_DEMAND},
+    {20, "YPT", HOLDS(isNear(s, at.i, x)), NEAR_DEMAND},
 
     {25, "NOLAY", HOLDS(isWhole(x, 1, 12)), "there must be 1 to 12 nonlinear layers"},
     {25, "ITENOL", HOLDS(isWhole(x, 1, 32767)), "there must be 1 iteration or more"},
@@ -81,6 +106,10 @@ const ValueRule<Set> rules[] = {
     {26, "LAYNO", HOLDS(!nonlinearBefore(s, at.k, x)), "the layer is among the nonlinear ones already"},
     {27, "ZCNOL", HOLDS(isWithinLayer(s, s.NOLLAY[at.k].LAYNO.integer(), x)),
      "the stress point must lie in its layer, LAYNO of card (26)"},
+    {28, "RCNOL", HOLDS(isNearAll(s, x)), NEAR_DEMAND},
+    {28, "XCNOL", HOLDS(isNearAll(s, x)), NEAR_DEMAND},
+    {28, "YCNOL", HOLDS(isNearAll(s, x)), NEAR_DEMAND},
+    {28, "SLD", HOLDS(x >= 0 && x <= 100), "the slope of load distribution must be 0 to 100"},
     {28, "DELNOL", HOLDS(x > 0), "the tolerance must be greater than 0"},
     {29, "RELAX", HOLDS(x > 0 && x <= 1), "the relaxation factor must be above 0 and at most 1"},
     {30, "GAM", HOLDS(x >= 0), "the unit weight must not be negative"},

@@ -11,7 +11,7 @@ const Deck<LayeredSet>& layeredDeck() {
         {nullptr, {}, {{1, " (1) NPROB", {{Layout::Close, {CARD_FIELD("NPROB", s.NPROB)}}}}}}};
     static const Deck<LayeredSet> deck = {
         fileCards, layeredCards(), [](const Store& store) -> Double { return store.NPROB; },
-        [](Store& store, int n) -> LayeredSet& { return store.layered[n]; }};
+        [](Store& store, int n) -> LayeredSet& { return store.layered[n]; }, TypedText::AsTyped};
     return deck;
 }
 

@@ -10,10 +10,12 @@ enum class Answer { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 struct FileQuestion {
     enum class Action { Open = 1, Save = 2 };
     Action action = Action::Open;
-    std::string filter;     ///< "Data Files (*.DAT)|*.DAT|Text files|*.TXT"
-    int filterNumber = 1;   ///< preselected entry of the filter, from 1
-    std::string name;       ///< proposed name, full or bare
-    std::string directory;  ///< folder in which the dialog starts when the name is bare
+    std::string filter = {};            ///< "Data Files (*.DAT)|*.DAT|Text files|*.TXT"
+    int filterNumber = 1;               ///< preselected entry of the filter, from 1
+    std::string name = {};              ///< proposed name, full or bare
+    std::string directory = {};         ///< folder in which the dialog starts when the name is bare
+    std::string pattern = {};           ///< files listed until another entry of the filter is chosen: "*.dat"
+    std::string defaultExtension = {};  ///< of a name that is typed without one: ".DAT"
 };
 
 struct FileAnswer {
@@ -32,4 +34,10 @@ class Dialogs {
                                                 const std::string& proposal) = 0;
     /// Nothing when cancelled.
     virtual std::optional<FileAnswer> fileDialog(const FileQuestion& question) = 0;
+
+    /// The question before a file that is there is written over.
+    bool mayReplace(const std::string& path) {
+        return MsgBox("There is a file " + path + " already. Do you want to replace it?", Buttons::YesNo) ==
+               Answer::Yes;
+    }
 };

@@ -1,4 +1,5 @@
-// Printing of a built text, a help box for instance, line by line.
+// Printing of a text line by line: of a built text, a help box for instance, and
+// of the pages that a text is cut into.
 #pragma once
 
 #include <string>
@@ -11,3 +12,16 @@ class Printer;
 /// character in front of its line feed, ends the printing silently: pages sent stay sent, the unfinished one
 /// is dropped.
 void PrintTextBox(Printer& printer, const std::string& text);
+
+struct TextPages {
+    int linesPerPage = 58;  ///< below 1: one page without a break
+    int blanksAboveHeading = 2;
+    int headingColumn = 13;  ///< of "page  2" and so on; the first page has no heading
+};
+
+/// The lines of `text` as PrintTextBox prints them, in the printer's font. A line without a character in
+/// front of its line feed is InvalidCall, a page number beyond an Integer Overflow, and the printer's own
+/// failures come through: pages sent stay sent, the unfinished one is the caller's to drop.
+void printTextLines(Printer& printer, const std::string& text, const TextPages& pages);
+
+void printBlankLines(Printer& printer, int count);

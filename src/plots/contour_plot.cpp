@@ -263,14 +263,14 @@ NoContours::NoContours()
 
 std::optional<ContourPage> ContourPlot::next(const Ask& ask) {
     if (ended_ || !advance()) return std::nullopt;
-    kernel_.Cls();
-    kernel_.QScreen();
-    ContourSheet sheet(kernel_, *pan_, results_, problem_, DIRN_, k_);
+    Kernel kernel;
+    kernel.QScreen();
+    ContourSheet sheet(kernel, *pan_, results_, problem_, DIRN_, k_);
     sheet.begin();
-    ended_ = ask({sheet.caption(), kernel_.page()}, sheet.prompt(), sheet.proposal()).empty();
+    ended_ = ask({sheet.caption(), kernel.page()}, sheet.prompt(), sheet.proposal()).empty();
     if (ended_) return std::nullopt;
     sheet.finish();
-    return ContourPage{sheet.caption(), kernel_.page()};
+    return ContourPage{sheet.caption(), kernel.page()};
 }
 
 /// Moves to the next direction and layer that has a page, into the next problem where it must.

@@ -34,8 +34,8 @@ class ContourPlot {
 
     /// The next page, nothing behind the last one or after an empty answer. NoContours for a run with more
     /// than one period or load group, with damage, or without a table; a RunTimeError of any kind means that
-    /// the file's data cannot be drawn. Pages build on each other: what one page rounds and the font that it
-    /// leaves are the next page's.
+    /// the file's data cannot be drawn. Pages build on each other: a number that one page shows is
+    /// rounded for the next.
     std::optional<ContourPage> next(const Ask& ask);
 
     bool ended() const { return ended_; }  ///< by an empty answer
@@ -46,7 +46,6 @@ class ContourPlot {
 
     PanReader file_;
     int& DIRN_;
-    Kernel kernel_;
     std::optional<PanProblem> pan_;  ///< the problem being shown, with the roundings of its pages
     PanResults results_;
     Integer problem_ = 0;

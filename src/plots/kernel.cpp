@@ -55,12 +55,6 @@ Kernel::Kernel() {
     page_.height = pageHeight;
 }
 
-void Kernel::Cls() {
-    page_.ops.clear();
-    nextX_.reset();
-    nextY_.reset();
-}
-
 void Kernel::QScreen() {
     QDev = {0, ToLong(static_cast<Double>(page_.width)), ToLong(static_cast<Double>(page_.height)), 0};
 }

@@ -63,9 +63,6 @@ class Kernel {
     Kernel();
     const Page& page() const { return page_; }
 
-    /// Clears the page. What the surface is set to stays, the font among it.
-    void Cls();
-
     void QScreen();
     void QPlotSetup(Single PX1, Single PX2, Single PY1, Single PY2, Single RX1, Single RX2, Single RY1,
                     Single RY2);

@@ -205,7 +205,8 @@ class SlabPage {
 
     void jointCaptions(int s) {
         const int slabs = pan.NSLAB;
-        if (slabs == 2) {
+        // Slab 2 would write the same text in the same place, in the font that slab 1 leaves.
+        if (slabs == 2 && s == 1) {
             const bool vertical = pan.JONO[1][2] == 1;
             jointCaption(Integer{1}, vertical, vertical ? 4900 : 2500, vertical ? 2600 : 1600);
         }
@@ -358,10 +359,10 @@ std::optional<Page> SlabPlot::next() {
     PanResults results = file_.readResults(*pan_);
     // Any damage flag but 0 has a last page with a design life, and only a positive one has indexes.
     if (pan_->NDAMA != 0 && g_ == pan_->NLG && p_ == pan_->NPY) file_.readDesignLife(*pan_);
-    kernel_.Cls();
-    kernel_.QScreen();
-    SlabPage(kernel_, *pan_, results, problem_, p_, g_).draw();
-    return kernel_.page();
+    Kernel kernel;
+    kernel.QScreen();
+    SlabPage(kernel, *pan_, results, problem_, p_, g_).draw();
+    return kernel.page();
 }
 
 /// Moves to the next period and load group that has a page, into the next problem where it must.

@@ -15,15 +15,14 @@ class SlabPlot {
     explicit SlabPlot(ListReader source) : file_(std::move(source)) {}
 
     /// The next page, nothing behind the last one. A RunTimeError of any kind means that the file's data
-    /// cannot be drawn. Pages build on each other: what one page rounds and the font that it leaves are the
-    /// next page's, so no page can be had without those before it.
+    /// cannot be drawn. Pages build on each other: a number that one page shows is rounded for the next, so
+    /// no page can be had without those before it.
     std::optional<Page> next();
 
   private:
     bool advance();
 
     PanReader file_;
-    Kernel kernel_;
     std::optional<PanProblem> pan_;  ///< the problem being shown, with the roundings of its pages
     Integer problem_ = 0, p_ = 0, g_ = 0;
 };

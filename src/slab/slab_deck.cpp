@@ -9,9 +9,9 @@ const Deck<SlabSet>& slabDeck() {
     using Set = Store;
     static const CardTable<Store> fileCards = {
         {nullptr, {}, {{1, " (1) NPROB", {{Layout::Close, {CARD_FIELD("NPROB", s.SlabNPROB)}}}}}}};
-    static const Deck<SlabSet> deck = {fileCards, slabCards(),
-                                       [](const Store& store) { return store.SlabNPROB.number(); },
-                                       [](Store& store, int n) -> SlabSet& { return store.slab[n]; }};
+    static const Deck<SlabSet> deck = {
+        fileCards, slabCards(), [](const Store& store) { return store.SlabNPROB.number(); },
+        [](Store& store, int n) -> SlabSet& { return store.slab[n]; }, TypedText::AsNumber};
     return deck;
 }
 

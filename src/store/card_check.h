@@ -2,6 +2,8 @@
 // that are walked along with the cards.
 #pragma once
 
+#include <cmath>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -42,6 +44,8 @@ class CardChecker : public CardWalker<Set> {
         if (!value.isNumeric()) fail(value.isEmptyText() ? "empty" : value.text(), "a number is needed");
         const Double x = value.number();
         if (!std::isfinite(x)) fail("not finite", "a number is needed");
+        if (std::abs(x) > std::numeric_limits<Single>::max())
+            fail(value.text(), "the number must be below 3.4E+38");
         for (const ValueRule<Set>& rule : rules_)
             if (rule.card == card.number && this->where_.field == rule.field &&
                 !rule.holds(x, this->set(), this->where_.at))

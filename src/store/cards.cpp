@@ -20,7 +20,7 @@ std::string DeckReadResult::sentence() const {
     return line == 0 ? reason : "line " + std::to_string(line) + ": " + where.text() + ": " + reason;
 }
 
-void writeCell(ListWriter& out, const Cell& cell, Layout layout) {
+void writeCell(ListWriter& out, const Cell& cell, Layout layout, TypedText typedText) {
     if (const auto* text = std::get_if<std::string*>(&cell)) {
         out.text(**text);
         return;
@@ -28,7 +28,7 @@ void writeCell(ListWriter& out, const Cell& cell, Layout layout) {
     if (const auto* variant = std::get_if<Variant*>(&cell)) {
         if (!(*variant)->isNumeric()) throw RunTimeError(Fault::TypeMismatch, (*variant)->text());
         // A text brings no blanks along and would run into its close neighbour: there it goes as its number.
-        if (layout == Layout::Close)
+        if (layout == Layout::Close || typedText == TypedText::AsNumber)
             out.number((*variant)->isText() ? Variant((*variant)->number()) : **variant);
         else
             out.number(**variant);

@@ -176,8 +176,12 @@ class CardWalker {
     Set& set_;
 };
 
+/// What a Variant that holds a text writes where the text is a number: the text as it was typed, or the
+/// number like any other.
+enum class TypedText { AsTyped, AsNumber };
+
 /// Writes one value. A Variant whose text is no number is a TypeMismatch.
-void writeCell(ListWriter& out, const Cell& cell, Layout layout);
+void writeCell(ListWriter& out, const Cell& cell, Layout layout, TypedText typedText);
 /// Reads one value. A number that goes into a Variant is a Double there.
 void readCell(ListReader& in, const Cell& cell);
 
@@ -185,17 +189,18 @@ template <class Set>
 class CardWriter : public CardWalker<Set> {
   public:
     /// The cells are given out for reading and for writing alike; nothing is written into `set` here.
-    CardWriter(ListWriter& out, const Set& set, DeckPlace& where)
-        : CardWalker<Set>(const_cast<Set&>(set), where), out_(out) {}
+    CardWriter(ListWriter& out, const Set& set, DeckPlace& where, TypedText typedText = TypedText::AsNumber)
+        : CardWalker<Set>(const_cast<Set&>(set), where), out_(out), typedText_(typedText) {}
 
   private:
     void value(const Card<Set>&, const Run<Set>& run, Cell cell) override {
-        writeCell(out_, cell, run.layout);
+        writeCell(out_, cell, run.layout, typedText_);
     }
     void cardEnd(const Card<Set>& card) override { out_.line(card.label ? card.label : ""); }
     void lineEnd() override { out_.endLine(); }
 
     ListWriter& out_;
+    TypedText typedText_;
 };
 
 template <class Set>

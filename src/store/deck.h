@@ -17,6 +17,7 @@ struct Deck {
     const CardTable<Set>& setCards;
     Double (*count)(const Store& store);  ///< data sets, as card (1) has it
     Set& (*set)(Store& store, int n);     ///< SubscriptOutOfRange beyond the store
+    TypedText typedText;                  ///< of tables, whose cells are kept as they were typed
 };
 
 /// Thrown where the one label that is tested is not there.
@@ -35,7 +36,8 @@ void saveDeck(const Deck<Set>& deck, const Store& store, ListWriter& out) {
         CardWriter<Store>(out, store, where).walk(deck.fileCards);
         for (int n = 1; n <= deck.count(store); ++n) {
             where = {n, 0, "", {}};
-            CardWriter<Set>(out, deck.set(const_cast<Store&>(store), n), where).walk(deck.setCards);
+            CardWriter<Set>(out, deck.set(const_cast<Store&>(store), n), where, deck.typedText)
+                .walk(deck.setCards);
         }
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.fault(), where.text());

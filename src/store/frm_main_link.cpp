@@ -3,6 +3,7 @@
 #include "platform/files.h"
 #include "platform/qt/form.h"
 #include "store/frm_file_list.h"
+#include "store/frm_tolmark.h"
 #include "store/program.h"
 #include "store/store.h"
 
@@ -25,6 +26,12 @@ void offerDataPath(Program& program, const std::string& directory) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbDataPath")) box->insertListItem(directory, 0);
 }
 
+void appendDataPath(Program& program, const std::string& directory) {
+    ComboBox* box = boxOfMainScreen(program, "cmbDataPath");
+    if (!box || (box->listCount() > 0 && equalIgnoringCase(directory, box->listText(0)))) return;
+    box->addListItem(directory);
+}
+
 void refreshFileName(Program& program, const std::string& name) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbFileName")) {
         FillFileList(program.store.cmbDirectory, "*.dat", *box);
@@ -34,4 +41,8 @@ void refreshFileName(Program& program, const std::string& name) {
 
 void setFileName(Program& program, const std::string& name) {
     if (ComboBox* box = boxOfMainScreen(program, "cmbFileName")) box->setTextValue(name);
+}
+
+void syncDataPath(Program& program) {
+    if (auto* main = dynamic_cast<frmTOLMARK*>(program.screens.loaded("frmTOLMARK"))) main->SyncDataPath();
 }

@@ -12,6 +12,7 @@
 #include "store/data_paths.h"
 #include "store/frm_file_list.h"
 #include "store/store.h"
+#include "text/frm_help1.h"
 
 namespace {
 
@@ -282,11 +283,7 @@ void frmTOLMARK::openPlot(const std::string& form) {
     program_.screens.unload(form);
 }
 
-void frmTOLMARK::cmdHelp_Click() {
-    program_.screens.unload("frmHelp1");
-    program_.store.TableKind = 1;
-    program_.screens.load("frmHelp1");
-}
+void frmTOLMARK::cmdHelp_Click() { showManual(program_, 1); }
 
 void frmTOLMARK::startSolver(const std::string& executable) {
     std::string name = cmbFileName->textValue();

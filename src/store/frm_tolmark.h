@@ -20,6 +20,9 @@ class frmTOLMARK : public Form {
     /// The line at the foot of the screen: where a print job went.
     void showStatus(const std::string& text);
 
+    /// Takes the data directory of the box into the history, and the file name of its box as the shared one.
+    void SyncDataPath();
+
     /// Ends the program, forms that are open included.
     Handler onExit;
 
@@ -51,7 +54,6 @@ class frmTOLMARK : public Form {
     void cmdHelp_Click();
     void cmdExit_Click();
 
-    void SyncDataPath();
     void openInput(const std::string& form);
     void openPlot(const std::string& form);
     void startSolver(const std::string& executable);

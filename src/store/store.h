@@ -25,9 +25,8 @@ struct Store {
     Integer NPROB = 0;  ///< data sets of the layered file
     Variant SlabNPROB;  ///< data sets of the slab file, 1 or 2
 
-    Integer GeneralOpens = 0;    ///< loads of frmGeneral since the last File/New of the slab side
-    Integer ArrangeVisits = 0;   ///< loads of the slab arrangement table since then
-    Integer DataSet2Clicks = 0;  ///< clicks on Data Set 2 of the slab side that made it, since then
+    Integer GeneralOpens = 0;   ///< loads of frmGeneral since the last File/New of the slab side
+    Integer ArrangeVisits = 0;  ///< loads of the slab arrangement table since then
 
     int TableKind = 0;  ///< which table or caller a shared form serves
     int TblLines = 0;

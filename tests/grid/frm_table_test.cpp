@@ -9,6 +9,7 @@
 #include <QtTest>
 
 #include "store/store.h"
+#include "support/pictures.h"
 #include "support/quiet_desktop.h"
 #include "support/recording_printer.h"
 #include "support/scripted_dialogs.h"
@@ -38,7 +39,7 @@ class TableFormTest : public ::testing::Test {
         });
         addTableForms(program);
         screens.load("frmBEDFORM");
-        store.CurLayDS = 1;
+        store.CurLayDS = store.CurSlabDS = 1;
         store.NewFile = 1;
     }
     ~TableFormTest() override { setDispatchDialogs(nullptr); }
@@ -47,17 +48,23 @@ class TableFormTest : public ::testing::Test {
 
     /// Opens a table as its menu does and leaves it in front, active.
     Form& open(int kind, const std::string& form, int lines, int cols) {
+        return open(kind, form, lines, cols, kind == 107 && form == "frmspreadb" ? 1 : 0);
+    }
+    Form& open(int kind, const std::string& form, int lines, int cols, int group) {
         store.TableKind = kind;
-        store.CurGroup = kind == 107 && form == "frmspreadb" ? 1 : 0;
+        store.CurGroup = group;
         store.CurTopRow = 1;
-        (form == "frmSpread1" ? store.MainLines : store.TblLines) = lines;
-        if (form == "frmSpread1") {
-            store.MainCols = cols;
-        } else {
-            store.GridCols = static_cast<Integer>(cols);
-        }
+        store.MainLines = store.TblLines = lines;
+        store.MainCols = cols;
+        store.GridCols = static_cast<Integer>(cols);
         screens.load(form);
         return front(form);
+    }
+    /// The line of the main table under which that entry is the one.
+    int groupOf(const TableEntry& entry, int cols) {
+        TablePlace place{.kind = entry.kind, .dataSet = 1, .layer = 1, .group = 1};
+        while (&tableEntry(store, entry.form, place, cols) != &entry && place.group < 4) ++place.group;
+        return place.group;
     }
     Form& front(const std::string& form) {
         Form* loaded = screens.loaded(form);
@@ -202,6 +209,18 @@ TEST_F(TableFormTest, ClicksCommitIntoTheCellThatWasEdited) {
     EXPECT_EQ(set().LAYER[1].TH.text(), "8");
     EXPECT_EQ(set().LAYER[6].TH, Variant(0));
     EXPECT_EQ(word("frmBEDFORM", "lblLayer"), "done");
+}
+
+TEST_F(TableFormTest, AClickCommitsAlsoWhereTheWindowGetsNoFocusEvents) {
+    FlexGrid& table = grid(open(103, "frmspreadb", 3, 2));
+    type("8");
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    click(table, 3, 1);
+    EXPECT_EQ(column(table, 1) + at(table), "8| 0| 0|3,1");
+    EXPECT_FALSE(table.cellBox().isVisible());
 }
 
 TEST_F(TableFormTest, LineKeysAlsoFromTheNumberPadAndNeverToTheClipboard) {
@@ -377,15 +396,25 @@ TEST_F(TableFormTest, TheHelpTextIsPrintedAsItStands) {
 }
 
 TEST_F(TableFormTest, EveryTableIsWellMade) {
-    for (const TableEntry& entry : layeredTables()) {
-        for (Single NUNIT : {0.0F, 1.0F}) {
-            set().NUNIT = NUNIT;
+    std::vector<const TableEntry*> entries;
+    for (const auto* tables : {&layeredTables(), &slabTables()}) {
+        for (const TableEntry& entry : *tables) entries.push_back(&entry);
+    }
+    for (const TableEntry* each : entries) {
+        const TableEntry& entry = *each;
+        for (const int NUNIT : {0, 1}) {
+            set().NUNIT = static_cast<Single>(NUNIT);
+            store.slab[1].NUNIT = static_cast<Integer>(NUNIT);
             set().LOADL[1].LOAD = entry.columns.size() == 1 ? 0 : 1;
-            Form& form = open(entry.kind, entry.form, 12, static_cast<int>(entry.columns.size()) + 1);
+            const int cols = static_cast<int>(entry.columns.size()) + 1;
+            Form& form = open(entry.kind, entry.form, entry.fixedLines ? 3 : 12, cols, groupOf(entry, cols));
             SCOPED_TRACE(form.caption());
             expectWellMade(form);
+            savePicture(form, std::string(entry.help) + (NUNIT ? "_si" : ""));
             FlexGrid& table = grid(form);
             EXPECT_EQ(table.accessibleName(), form.windowTitle());
+            const QVariant firstName = table.model()->headerData(0, Qt::Vertical);
+            EXPECT_EQ(firstName.toString().toStdString(), table.Text(1, 0)) << "also where it is blank";
             for (int col = 1; col < table.Cols(); ++col) {
                 const int head =
                     table.fontMetrics().horizontalAdvance(QString::fromStdString(table.Text(0, col)));

@@ -1,53 +1,15 @@
 // What the tables of nonlinear, viscoelastic and damage data do beyond the rules
 // that all tables share.
-#include <gtest/gtest.h>
-
-#include "grid/table_engine.h"
-#include "store/store.h"
+#include "support/table_bench.h"
 #include "text/pages.h"
 
 namespace {
 
-const TableForm& formNamed(const std::string& name) {
-    for (const TableForm& form : tableForms) {
-        if (form.name == name) return form;
-    }
-    throw std::logic_error(name);
-}
-
-class LayeredTablesTest : public ::testing::Test {
+class LayeredTablesTest : public TableBench {
   protected:
     LayeredTablesTest() { store.CurLayDS = 1; }
 
     LayeredSet& set(int dataSet = 1) { return store.layered[dataSet]; }
-
-    TableEngine open(int kind, const std::string& form, int lines, int cols) {
-        store.TableKind = kind;
-        store.TblLines = store.MainLines = lines;
-        store.GridCols = static_cast<Integer>(cols);
-        store.MainCols = cols;
-        return TableEngine(store, formNamed(form));
-    }
-    static void put(TableEngine& table, int row, int col, const std::string& text) {
-        table.setPosition({row, col, row, col, 1});
-        table.GridEdit('0');
-        table.setOverlayText(text);
-        table.CommitCell();
-    }
-    static TableOutcome enter(TableEngine& table, int row, int col, const std::string& text) {
-        put(table, row, col, text);
-        return table.CellKeyDown(13);
-    }
-    static std::string words(const TableOutcome& outcome) {
-        std::string text;
-        for (const StatusWord& status : outcome.words)
-            text += status.label + (status.word == StatusWord::Word::Done    ? " done "
-                                    : status.word == StatusWord::Word::Input ? " input "
-                                                                             : " default ");
-        return text;
-    }
-
-    Store store;
 };
 
 TEST_F(LayeredTablesTest, EachHasACaptionUnitsAndAHelpPage) {
@@ -71,18 +33,9 @@ TEST_F(LayeredTablesTest, EachHasACaptionUnitsAndAHelpPage) {
     for (const auto& c : cases) {
         const TableEngine table = open(c.kind, c.form, 2, c.cols);
         EXPECT_EQ(table.caption(), c.caption);
-        std::string unit;
-        for (const UnitWord& word : table.unitWords())
-            unit += (unit.empty() ? "" : " ") + std::to_string(word.column) + word.text;
-        EXPECT_EQ(unit, c.unit) << c.kind;
+        EXPECT_EQ(units(table), c.unit) << c.kind;
     }
-    for (const TableEntry& entry : layeredTables()) {
-        const std::string help = textPage(entry.help, "\r\n");
-        EXPECT_EQ(help.find("@include"), std::string::npos) << entry.help;
-        for (const TableColumn& column : entry.columns)
-            EXPECT_NE(help.find(column.head), std::string::npos)
-                << entry.help << " leaves out " << column.head;
-    }
+    expectHelpOf(layeredTables());
 }
 
 TEST_F(LayeredTablesTest, ClayTypesFillTheModuliOfTheirPeriods) {

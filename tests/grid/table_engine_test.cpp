@@ -371,6 +371,15 @@ TEST_F(TableEngineTest, OKPlaysEnterFirstAndEndsWhenThatLedAway) {
     set().LOADL[1].XW = 0;
     EXPECT_EQ(second.OK().load, "frmspreadb");
     EXPECT_EQ(set().LOADL[1].XW, Variant(12));
+
+    set().LOADL[1].NR = 0;
+    TableEngine third = loads(1);
+    go(third, 1, 5);
+    enter(third, "14");
+    const TableOutcome refused = third.OK();
+    EXPECT_EQ(refused.message, "NR or NPT cannot be 0");
+    EXPECT_FALSE(refused.unload) << "the count is there to be corrected";
+    EXPECT_EQ(set().LOADL[1].XW, Variant(12));
 }
 
 TEST_F(TableEngineTest, OnlyTheMainTablesOKRefusesMoreThan25Points) {

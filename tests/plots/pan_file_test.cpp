@@ -56,7 +56,7 @@ TEST(PanFile, ItemsStandWhereTheyBelong) {
     EXPECT_EQ(two.results[2][1].CIDX[1], 0.03F);
     EXPECT_EQ(two.problem.DESLIFE, 20.5F);
     std::string otherUnit = twoSlabsDamage;
-    otherUnit.replace(otherUnit.find("1 0 0 1\n"), 8, "1 0 0 2\n");
+    otherUnit.replace(otherUnit.find("1 1 0 1\n"), 8, "1 1 0 2\n");
     EXPECT_EQ(readAll(otherUnit).at(0).problem.areas[1][1].QQ, 500);
 }
 

@@ -39,13 +39,13 @@ inline const char* const oneSlab = R"(1
 )";
 
 /// Two slabs of one layer with a joint, SI units, on three layers; two periods and two load groups of a
-/// damage analysis; the second group has forces only. No stress table.
+/// damage analysis; the second group has forces only. Symmetry about the x axis, no stress table.
 inline const char* const twoSlabsDamage = R"(1
 "Two slabs, damage"
 2 1 2 2
 2 1
 3 2 0 1 0 0 3 2 1 0 0 0
-1 0 0 1
+1 1 0 1
 0 50 100 0 60
 0 50.5 100 0 60
 20.32 .15 27580000

@@ -1,5 +1,5 @@
 // Journeys through every form of nonlinear, viscoelastic and damage data, from
-// File/New to the saved deck. On the way each save that comes too early is refused
+// File/New to the plotted pages. On the way each save that comes too early is refused
 // by name.
 #include "roads/road.h"
 
@@ -49,7 +49,9 @@ struct Journey {
     std::optional<Nonlinear> nonlinear;
     std::optional<Viscoelastic> viscoelastic;
     std::optional<Damage> damage;
-    std::string deck;  ///< with plain line ends
+    std::string deck;          ///< with plain line ends
+    Cells results;             ///< what the text of the results tells, among others
+    std::vector<Cells> pages;  ///< what each plot page tells, among others
 };
 
 void PrintTo(const Journey& road, std::ostream* out) { *out << road.name; }
@@ -192,7 +194,12 @@ class MaterialsRoad : public Road, public ::testing::WithParamInterface<Journey>
     }
 };
 
-TEST_P(MaterialsRoad, FromAnEmptyMachineToASavedDeck) {
+void expectAll(const Cells& parts, const std::string& text) {
+    for (const std::string& part : parts)
+        EXPECT_NE(text.find(part), std::string::npos) << part << "\n" << text;
+}
+
+TEST_P(MaterialsRoad, FromAnEmptyMachineToThePlottedPages) {
     const Journey& road = GetParam();
     front("frmTOLMARK").control<ComboBox>("cmbDataPath").setTextValue(directory.path());
     click("frmTOLMARK", "cmdBedform");
@@ -208,6 +215,11 @@ TEST_P(MaterialsRoad, FromAnEmptyMachineToASavedDeck) {
     click("frmBEDFORM", "cmdExit");
     EXPECT_TRUE(dialogs.finished());
     EXPECT_EQ(withPlainLineEnds(directory.read(road.name + ".DAT")), road.deck);
+
+    expectAll(road.results, solve(road.name));
+    const auto pages = plot(road.name);
+    ASSERT_EQ(pages.size(), road.pages.size());
+    for (std::size_t page = 0; page < pages.size(); ++page) expectAll(road.pages[page], pages[page]);
 }
 
 /// A granular base on a soft clay.
@@ -248,29 +260,35 @@ Granular base on soft clay
  6.2  1110  178  .7  (31) K2 K3 K4 K0
 0 5000  (33) PHI K1
  1827  7682  3020  (33) EMIN EMAX K1
-)"};
+)",
+    .results = {"Layer 2, granular material", "Layer 3, fine-grained soil", "Moduli of the nonlinear layers"},
+    .pages = {{"Granular base on soft clay", "E = 500000 psi  PR = .35  GAM = 145 pcf",
+               "K1 = 5000 psi  K2 = .45  PR = .3   PHI = 0  K0 = .6  GAM = 135 pcf",
+               "K1 = 3020 psi  PR = .45   K0 = .7   GAM = 125 pcf",
+               "EMIN = 1827 psi  EMAX = 7682 psi  K2 = 6.2 psi  K3 = 1110  K4 = 178", "Stress points for"}}};
 
 /// Creep under a standing wheel, in SI units.
-const Journey viscoelastic = {.name = "viscoelastic",
-                              .general = {{"txtTitle1", "Asphalt under a standing wheel"},
-                                          {"txtMatl", "3"},
-                                          {"txtNl", "2"},
-                                          {"txtNz", "1"},
-                                          {"txtNunit", "1"}},
-                              .depths = {"0"},
-                              .layers = {"20", ".4", ".45"},
-                              .moduli = {{"0", "70000"}},
-                              .loads = {{{"0", "15", "700", "0", "0", "2"}, {"0", "15"}}},
-                              .nonlinear = {},
-                              .viscoelastic = Viscoelastic{.general = {{"txtDur", "0"}, {"txtNtyme", "3"}},
-                                                           .times = {"1", "10", "100"},
-                                                           .wordOfTimes = "input",
-                                                           .layers = {"1"},
-                                                           .wordOfTemperatures = "default",
-                                                           .creep = {{"1E-6", "2.5E-6", "4E-6"}},
-                                                           .temperatures = {}},
-                              .damage = {},
-                              .deck = R"( 1  (1) NPROB
+const Journey viscoelastic = {
+    .name = "viscoelastic",
+    .general = {{"txtTitle1", "Asphalt under a standing wheel"},
+                {"txtMatl", "3"},
+                {"txtNl", "2"},
+                {"txtNz", "1"},
+                {"txtNunit", "1"}},
+    .depths = {"0"},
+    .layers = {"20", ".4", ".45"},
+    .moduli = {{"0", "70000"}},
+    .loads = {{{"0", "15", "700", "0", "0", "2"}, {"0", "15"}}},
+    .nonlinear = {},
+    .viscoelastic = Viscoelastic{.general = {{"txtDur", "0"}, {"txtNtyme", "3"}},
+                                 .times = {"1", "10", "100"},
+                                 .wordOfTimes = "input",
+                                 .layers = {"1"},
+                                 .wordOfTemperatures = "default",
+                                 .creep = {{"1E-6", "2.5E-6", "4E-6"}},
+                                 .temperatures = {}},
+    .damage = {},
+    .deck = R"( 1  (1) NPROB
 Asphalt under a standing wheel
  3  0  1  1  (3) MATL NDAMA NPY NLG
  .001  (4) DEL
@@ -291,7 +309,11 @@ Asphalt under a standing wheel
  .2034  21.1  (41) BETA TEMPREF
  .000001   .0000025   .000004   (42) CREEP
  21.1   (44) TEMP
-)"};
+)",
+    .results = {"time 1 sec", "Layer 1: 1000000", "time 10 sec", "Layer 1: 400000", "time 100 sec",
+                "Layer 1: 250000"},
+    .pages = {{"PR = .4  BETA = .203 per C  TEMPREF = 21.1 C  TEMP = 21.1 C   CREEP are:",
+               "1.000E-06 2.500E-06 4.000E-06 per kPa", "E = 70000 kPa  PR = .45"}}};
 
 /// A moving wheel in two seasons on viscoelastic asphalt and a clay whose moduli depend on the season.
 const Journey combined = {
@@ -345,7 +367,14 @@ Two seasons
  .0000005   .0000006   .0000008   .0000011   .0000016   .0000023   .0000034   .0000048   .0000065   .000008   .000009   (42) CREEP
 50  (44) TEMP
 85.5  (44) TEMP
-)"};
+)",
+    .results = {"Moduli of the nonlinear layers", "Moduli of the viscoelastic layers",
+                "Period 2, load group 1"},
+    .pages = {
+        {"TEMPREF = 68 F  TEMP = 50 F  CREEP are:", "E = 30000 psi  PR = .3  GAM = 135 pcf", "K1 = 7680 psi",
+         "EMIN = 5000 psi  EMAX = 12340 psi"},
+        {"Period No. 2", "TEMPREF = 68 F  TEMP = 85.5 F", "4.800E-06 6.500E-06 8.000E-06 9.000E-06 per psi",
+         "K1 = 3020 psi", "EMIN = 1827 psi  EMAX = 7682 psi"}}};
 
 /// Duals and tandem axles in two periods, with damage.
 const Journey damage = {
@@ -388,9 +417,63 @@ Damage by duals and tandems
  8000   10000   (49) TNLR
  .414  3.291  .854  (50) FT1 FT2 FT3
  1.365E-09   4.477   (51) FT4 FT5
-)"};
+)",
+    .results = {"bottom of layer 1", "top of layer 3", "Design life"},
+    .pages = {{"Load Group No. 1   TNLR = 10000", "Damage Ratio: Fatigue C. = .01329", "P. Deform. = .04166"},
+              {"Load Group No. 2   TNLR = 5000", "Fatigue C. = .00732", "Tandem Spacing = 122 cm"},
+              {"Period No. 2  Load Group No. 1   TNLR = 8000", "Fatigue C. = .03087"},
+              {"TNLR = 10000", "Fatigue C. = .04683", "D.R.(Fatigue C.) =  .0983",
+               "D.R.(P. Deform.) =  .7645", "Design Life =  1.31 yrs"}}};
 
 INSTANTIATE_TEST_SUITE_P(Decks, MaterialsRoad, ::testing::Values(nonlinear, viscoelastic, combined, damage),
                          [](const auto& journey) { return journey.param.name; });
+
+TEST_F(Road, ANonlinearLayerIsLeftForItsConstantsAndComesBackOnTheNextLine) {
+    click("frmTOLMARK", "cmdBedform");
+    choose("frmBEDFORM", "mnuNew");
+    LayeredSet& set = store.layered[1];
+    set.MATL = 2;
+    set.NOLAY = 2;
+    click("frmBEDFORM", "mnuNonlinear");
+    click("frmNonlin", "mnuNonseasonal");
+    dialogs.expectBox("ZCNOL cannot be 0");
+    enter("frmSpread1", {"2", "0", "0"});
+    EXPECT_TRUE(dialogs.finished());
+
+    // OK in the last column leads away first, and a form closed by its frame leads nowhere.
+    auto& grid = front("frmSpread1").control<FlexGrid>("GridSpreadsheet");
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.cellRect(1, 2).center());
+    enter("frmSpread1", {"8"});
+    click("frmSpread1", "BtnRun");
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    type("frmGranular", "txtK0", "9");
+    front("frmGranular").close();
+    EXPECT_EQ(screens.loaded("frmSpread1"), nullptr);
+    EXPECT_EQ(word("frmNonlin", "lblNonseasonal"), "input");
+    EXPECT_EQ(set.NOLLAY[1].ZCNOL, Variant(8));
+    EXPECT_EQ(set.KGRAN[1].K0, Variant(.6));
+
+    click("frmNonlin", "mnuNonseasonal");
+    front("frmSpread1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    type("frmGranular", "txtK0", ".5");
+    click("frmGranular", "cmdOK");
+    enter("frmSpread1", {"3", "13", "1"});
+    type("frmClay", "txtK3", "1200");
+    click("frmClay", "cmdOK");
+
+    // A line goes in above the first one and out again: the constants go with their lines.
+    front("frmSpread1");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Insert, Qt::ControlModifier);
+    EXPECT_EQ(set.KGRAN[2].K0, Variant(.5));
+    EXPECT_EQ(set.KCLAY[3].K3, Variant(1200));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, Qt::ControlModifier);
+    click("frmSpread1", "BtnRun");
+    EXPECT_EQ(word("frmNonlin", "lblNonseasonal"), "done");
+    EXPECT_EQ(set.NOLAY, Variant(2));
+    EXPECT_EQ(set.NOLLAY[2].LAYNO, Variant(3));
+    EXPECT_EQ(set.KGRAN[1].K0, Variant(.5));
+    EXPECT_EQ(set.KCLAY[2].K3, Variant(1200));
+}
 
 }  // namespace

@@ -3,6 +3,10 @@
 #include <QAction>
 #include <filesystem>
 
+#include "plots/layered_plot.h"
+#include "support/page_reading.h"
+#include "support/pictures.h"
+
 Road::Road() {
     setDispatchDialogs(&dialogs);
     addScreens(screens, program);
@@ -45,13 +49,29 @@ std::string Road::word(const std::string& form, const std::string& label) {
     return front(form).control<StatusLabel>(label).caption();
 }
 
-void Road::picture(const std::string& form, const std::string& name) {
-    const QString folder = qEnvironmentVariable("TOLMARK_PICTURES");
-    if (folder.isEmpty()) return;
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(front(form).grab().save(folder + "/" + QString::fromStdString(name) + ".png"));
+void Road::picture(const std::string& form, const std::string& name) { savePicture(front(form), name); }
+
+std::string Road::solve(const std::string& name) {
+    const std::string stem = directory.path() + name;
+    click("frmTOLMARK", "cmdTolstrat");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(stem + ".BED"); }, 20000));
+    return directory.read(name + ".TXT");
 }
 
-bool Road::appears(const std::string& path) {
-    return QTest::qWaitFor([&] { return std::filesystem::exists(path); }, 10000);
+std::vector<std::string> Road::plot(const std::string& name) {
+    LayeredPlot plot(directory.path() + name + ".BED");
+    std::vector<std::string> pages;
+    while (const auto page = plot.next()) {
+        pages.emplace_back();
+        for (const Written& written : textsOf(*page)) pages.back() += written.text + "\n";
+    }
+    for (std::size_t page = 1; page <= pages.size(); ++page) {
+        dialogs.expectBox("Want to print on the printer?", Buttons::YesNo,
+                          page == pages.size() ? Answer::Yes : Answer::No);
+    }
+    click("frmTOLMARK", "cmdBedplot");
+    EXPECT_TRUE(dialogs.finished());
+    EXPECT_EQ(notes.size(), 1U);
+    EXPECT_EQ(directory.read("print/print-001.pdf").substr(0, 5), "%PDF-");
+    return pages;
 }

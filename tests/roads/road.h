@@ -34,10 +34,13 @@ class Road : public ::testing::Test {
     /// From the active cell of a table on: each text and Enter.
     void enter(const std::string& form, const std::vector<std::string>& cells);
     std::string word(const std::string& form, const std::string& label);
-    /// With TOLMARK_PICTURES set to a folder: the form as it looks now, as a PNG there.
+    /// As savePicture() has it.
     void picture(const std::string& form, const std::string& name);
-    /// Waits for a file that a solver leaves.
-    bool appears(const std::string& path);
+    /// Solves the deck that the main screen names and waits for its plot file: the text of the results.
+    std::string solve(const std::string& name);
+    /// Its plot pages on the screen, each with the question whether to print it, answered by No but for the
+    /// last one. All texts of each page, line by line.
+    std::vector<std::string> plot(const std::string& name);
 
     TemporaryDirectory directory;
     Store store;

@@ -47,7 +47,7 @@ const std::string singleSlabDeck =
     " 1   (12) NUDL\r\n"
     " 0   (13) NCNF\r\n"
     " 0   0   (14) NNMX NNMY\r\n"
-    " 1   0  10  0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ\r\n"
+    " 1   0   10   0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ\r\n"
     " 1   (22) FSAF\r\n"
     " 0   100   (24) NAS SUBMOD\r\n";
 
@@ -125,7 +125,7 @@ std::unique_ptr<Store> fullStore() {
 
 constexpr const char* lists =
     " 1   2.5   (11) NT T| 2   3   (11) NT T| 1   0   (12) NUDL| 2   (13) NCNF| 1   1   (14) NNMX NNMY|"
-    " 1   0  10  0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ|"
+    " 1   0   10   0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ|"
     " 1   123456.789   2  -1E+20   (16) NN FF| 3   .5   (16) NNX FMX| 4  -.25   (16) NNY FMY|"
     " 5   (17) NODNC| 6   (18) NP| 1   (19) NODSX| 2   (20) NODSY| 4   .125   (21) NG CURL| 1   (22) FSAF|";
 constexpr const char* dowels =
@@ -139,9 +139,9 @@ TEST(SlabDeck, ListsFoundationsJointsAndDamage) {
     const auto end = [&] { return linesAfter(deckOf(*store), "(10) T PR YM"); };
     EXPECT_NE(deckOf(*store).find("\r\n 8   .15   4000000   4   .2   3500000   (10) T PR YM\r\n"),
               std::string::npos);
-    EXPECT_EQ(end(), std::string(lists) + "1  100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
+    EXPECT_EQ(end(), std::string(lists) + " 1   100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
     s.NFOUND = 3;  // only 1 and 2 are told apart
-    EXPECT_EQ(end(), std::string(lists) + "1  100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
+    EXPECT_EQ(end(), std::string(lists) + " 1   100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
     s.NFOUND = 1;
     s.YMS = 7500;
     s.PRS = .45;

@@ -128,6 +128,9 @@ void FlexGrid::setSize(int rows, int cols) {
         for (int col = row < before ? columnsBefore : 0; col < columnCount(); ++col)
             setItem(row, col, new QTableWidgetItem);
     }
+    // Where there is no text Qt shows a number.
+    for (int row = before; row < rowCount(); ++row) setText(row + FixedRows, 0, "");
+    for (int col = columnsBefore; col < columnCount(); ++col) setText(0, col + 1, "");
 }
 
 void FlexGrid::setColWidth(int col, int twips) {
@@ -209,7 +212,9 @@ void FlexGrid::openCellBox(int row, int col, const std::string& text, int selSta
     scrollTo(model()->index(row - FixedRows, col - 1));
     box_.setTextValue(text);
     box_.setCursorPosition(selStart);
-    box_.setAccessibleName(shown(Text(0, col) + ", " + Text(0, 0) + " " + Text(row, 0)));
+    QStringList name = {shown(Text(0, col)), shown(Text(0, 0) + " " + Text(row, 0)).trimmed()};
+    name.removeAll("");  // a head or the name of a line may be blank
+    box_.setAccessibleName(name.join(", "));
     box_.show();
     placeCellBox();
     box_.setFocus();

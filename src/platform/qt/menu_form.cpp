@@ -1,6 +1,5 @@
 #include "platform/qt/menu_form.h"
 
-#include <QAction>
 #include <QGridLayout>
 #include <QMenu>
 
@@ -8,13 +7,9 @@ namespace {
 
 QString shown(const std::string& text) { return QString::fromStdString(text); }
 
-void dropDown(MenuButton& button, const std::vector<MenuRow::Entry>& entries) {
+void dropDown(MenuButton& button, const std::vector<MenuEntry>& entries) {
     auto* menu = new QMenu(&button);
-    for (const MenuRow::Entry& entry : entries) {
-        auto* action = menu->addAction(shown(entry.caption));
-        action->setObjectName(shown(entry.name));
-        QObject::connect(action, &QAction::triggered, &button, [run = entry.action] { dispatch(run); });
-    }
+    fillMenu(*menu, entries);
     button.setMenu(menu);
     button.setPopupMode(QToolButton::InstantPopup);
     button.setStyleSheet("QToolButton::menu-indicator { image: none; }");

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/qt/input_form.h"
+#include "platform/qt/menu_bar.h"
 
 /// An entry of the bar.
 class MenuButton : public QToolButton {
@@ -20,12 +21,7 @@ struct MenuRow {
     std::string menu, caption;
     std::string label = {}, word = {}, hint = {};  ///< the status word under it; none where `label` is empty
     Handler action = {};                           ///< of the menu and of its label
-    /// Entries that drop down from the menu, in place of an action.
-    struct Entry {
-        std::string name, caption;
-        Handler action;
-    };
-    std::vector<Entry> entries = {};
+    std::vector<MenuEntry> entries = {};           ///< that drop down from the menu, in place of an action
 };
 
 class MenuForm : public InputForm {

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QRegularExpression>
@@ -19,6 +20,12 @@ constexpr Qt::WindowFlags freeBox = Qt::Dialog | Qt::WindowStaysOnTopHint;
 
 QString titleOr(const std::string& title) {
     return QString::fromStdString(title.empty() ? programName : title);
+}
+
+/// The dialog's own list of files, which follows the filter again as soon as the user chooses another entry.
+void listOnly(QFileDialog& box, const std::string& pattern) {
+    if (auto* files = box.findChild<QFileSystemModel*>())
+        files->setNameFilters({QString::fromStdString(pattern)});
 }
 
 }  // namespace
@@ -90,16 +97,15 @@ std::optional<FileAnswer> QtDialogs::fileDialog(const FileQuestion& question) {
         box.setNameFilters(filters);
         box.selectNameFilter(filters.value(question.filterNumber - 1, filters.last()));
     }
+    if (!question.pattern.empty()) listOnly(box, question.pattern);
+    box.setDefaultSuffix(QString::fromStdString(question.defaultExtension));
     box.setDirectory(proposed.absoluteDir().exists() ? proposed.absolutePath() : QDir::homePath());
     if (!question.name.empty()) box.selectFile(proposed.fileName());
 
     while (box.exec() == QDialog::Accepted) {
         const std::string name = box.selectedFiles().value(0).toStdString();
         const std::string existing = resolveName(name);
-        if (saving && existing != name &&
-            MsgBox("There is a file " + existing + " already. Do you want to replace it?", Buttons::YesNo,
-                   "") != Answer::Yes)
-            continue;
+        if (saving && existing != name && !mayReplace(existing)) continue;
         const auto number = static_cast<int>(filters.indexOf(box.selectedNameFilter())) + 1;
         return FileAnswer{name, number > 0 ? number : question.filterNumber};
     }

@@ -61,6 +61,12 @@ void storeText(const ValueField& field, const std::string& text) {
                field);
 }
 
+void paintRed(QLabel& caption) {
+    QPalette colours = caption.palette();
+    colours.setColor(caption.foregroundRole(), Qt::red);
+    caption.setPalette(colours);
+}
+
 bool isText(const ValueField& field) { return std::holds_alternative<std::string*>(field); }
 
 }  // namespace
@@ -72,11 +78,12 @@ void ValueForm::build(std::vector<ValueRow> rows, const std::string& okButton) {
     rows_ = std::move(rows);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(12);
-    grid->setVerticalSpacing(4);
+    grid->setVerticalSpacing(3);
     grid->setColumnStretch(restColumn, 1);  // captions stay near their boxes
     for (const ValueRow& row : rows_) {
         const int line = grid->rowCount();
         auto* caption = new FieldCaption("lbl" + row.box.substr(3), row.caption, this);
+        if (row.red) paintRed(*caption);
         auto* box = new TextBox(row.box, "", this);
         box->setAccessibleName(QString::fromStdString(row.caption).simplified());
         if (isText(row.field)) {
@@ -87,12 +94,15 @@ void ValueForm::build(std::vector<ValueRow> rows, const std::string& okButton) {
             grid->addLayout(wide, line, captionColumn, 1, -1);
         } else {
             box->setFixedWidth(numberWidth);
-            box->onClick = [box] { box->setTextValue(""); };
+            if (row.emptiedByClick) box->onClick = [box] { box->setTextValue(""); };
             grid->addWidget(caption, line, captionColumn);
             grid->addWidget(box, line, boxColumn);
         }
     }
-    layOut(grid, "Text1", {{okButton, "&OK", [this] { cmdOk_Click(); }}});
+    auto* body = new QVBoxLayout;
+    body->addLayout(grid);
+    if (QLayout* under = makeUnder()) body->addLayout(under);
+    layOut(body, "Text1", {{okButton, "&OK", [this] { cmdOk_Click(); }}});
 }
 
 void ValueForm::showFields() {
@@ -103,12 +113,19 @@ bool ValueForm::storeFields() {
     for (const ValueRow& row : rows_) {
         auto& box = control<TextBox>(row.box);
         storeText(row.field, box.textValue());
-        for (const Check& check : row.checks) {
-            if (!check.fails()) continue;
-            showMessage(check.message);
+        if (!passes(row.checks)) {
             box.setFocus();
             return false;
         }
+    }
+    return true;
+}
+
+bool ValueForm::passes(const std::vector<Check>& checks) {
+    for (const Check& check : checks) {
+        if (!check.fails()) continue;
+        showMessage(check.message);
+        return false;
     }
     return true;
 }

@@ -124,6 +124,34 @@ TEST_F(FileDialogTest, ProposesTheNameAndGivesNothingWhenCancelled) {
     EXPECT_FALSE(dialogs.fileDialog(question(FileQuestion::Action::Open, "ROAD.DAT")));
 }
 
+TEST_F(FileDialogTest, ListsAPatternFirstAndCompletesANameWithoutExtension) {
+    directory.write("road.dat", "deck");
+    directory.write("road.txt", "");
+    FileQuestion asked = question(FileQuestion::Action::Save, "");
+    asked.filterNumber = 2;
+    asked.pattern = "*.dat";
+    asked.defaultExtension = ".DAT";
+    onNextBox([](QDialog& box) {
+        auto& files = dynamic_cast<QFileDialog&>(box);
+        EXPECT_EQ(files.selectedNameFilter(), "Text Files (*.TXT)");
+        const auto* list = files.findChild<QListView*>("listView");
+        const auto only = [&] {
+            return list->model()->rowCount(list->rootIndex()) == 1 &&
+                   list->model()->index(0, 0, list->rootIndex()).data() == "road.dat";
+        };
+        EXPECT_TRUE(QTest::qWaitFor(only));
+        onNextBox([&](QDialog& question) {
+            onNextBox([](QDialog& again) { type(again, "new"); });
+            press(question, QMessageBox::No);
+        });
+        type(box, "ROAD");
+    });
+    const auto answer = dialogs.fileDialog(asked);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->name, directory.path() + "new.DAT");
+    EXPECT_EQ(answer->filterNumber, 2);
+}
+
 TEST_F(FileDialogTest, SavingOverAFileThatDiffersInCaseIsAsked) {
     directory.write("road.dat", "deck");
     QStringList asked;

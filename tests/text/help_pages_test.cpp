@@ -1,4 +1,4 @@
-// The help boxes of the layered forms as texts.
+// The help boxes of the input forms as texts.
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(LayeredHelp, IsNumberedThroughoutAndFitsItsBox) {
+TEST(FormHelp, IsNumberedThroughoutAndFitsItsBox) {
     const struct {
         const char* page;
         int paragraphs;
@@ -15,7 +15,10 @@ TEST(LayeredHelp, IsNumberedThroughoutAndFitsItsBox) {
         {"frm_bedform", 12},   {"frm_general1", 17},  {"frm_period_106", 3}, {"frm_period_119", 3},
         {"frm_period_123", 3}, {"frm_period_225", 3}, {"frm_layer_112", 3},  {"frm_layer_118", 3},
         {"frm_nonlin", 6},     {"frm_gen_non", 10},   {"frm_granular", 5},   {"frm_clay", 7},
-        {"frm_visco", 7},      {"frm_genvis", 7},     {"frm_damage1", 9},
+        {"frm_visco", 7},      {"frm_genvis", 7},     {"frm_damage1", 9},    {"frm_panform", 11},
+        {"frm_general", 18},   {"frm_slabdata", 5},   {"frm_slabs_x", 3},    {"frm_slabs_y", 3},
+        {"frm_curling", 14},   {"frm_solid", 3},      {"frm_dowel", 4},      {"frm_optional", 6},
+        {"frm_damage", 7},
     };
     for (const auto& [page, paragraphs] : pages) {
         std::istringstream lines(textPage(page, "\n"));

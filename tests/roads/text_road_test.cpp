@@ -1,0 +1,53 @@
+// A deck changed, solved and read as text, without leaving the program.
+#include "roads/road.h"
+#include "text/pages.h"
+
+namespace {
+
+class TextRoad : public Road {
+  protected:
+    TextRoad() {
+        directory.write("BED1.DAT", textPage("BED1", "\r\n"));
+        front("frmTOLMARK").control<ComboBox>("cmbDataPath").setTextValue(directory.path());
+        front("frmTOLMARK").control<ComboBox>("cmbFileName").setTextValue("BED1.DAT");
+    }
+    std::string shown() {
+        return front("frmEditor").control<QPlainTextEdit>("txtEditor").toPlainText().toStdString();
+    }
+    void open(const std::string& name, int filter) {
+        dialogs.expectFile(FileAnswer{directory.path() + name, filter});
+        choose("frmEditor", "mnuOpen");
+    }
+};
+
+TEST_F(TextRoad, ChangesADeckAndReadsItsResults) {
+    click("frmTOLMARK", "cmdEdit");
+    open("BED1.DAT", 2);
+    auto& text = front("frmEditor").control<QPlainTextEdit>("txtEditor");
+    ASSERT_TRUE(text.find("400000"));
+    QTest::keyClicks(&text, "500000");
+    picture("frmEditor", "editor");
+    choose("frmEditor", "mnuSave");
+
+    solve("BED1");
+    open("BED1.TXT", 1);
+    EXPECT_NE(shown().find("Modulus E of period 1, psi         500000 30000 8000"), std::string::npos);
+    EXPECT_EQ(front("frmTOLMARK").control<ComboBox>("cmbFileName").textValue(), "BED1.DAT");
+    choose("frmEditor", "mnuExit");
+    EXPECT_EQ(screens.loaded("frmEditor"), nullptr);
+}
+
+TEST_F(TextRoad, TheManualOpensFromEverywhere) {
+    click("frmTOLMARK", "cmdHelp");
+    EXPECT_EQ(front("frmHelp1").control<Label>("Label1").caption(), "Use of Main Screen");
+    picture("frmHelp1", "manual");
+    click("frmTOLMARK", "cmdEdit");
+    choose("frmEditor", "mnuTS");
+    EXPECT_EQ(front("frmHelp1").control<Label>("Label1").caption(), "Data File for TOLSTRAT");
+    choose("frmEditor", "mnuBed4");
+    picture("frmBed4", "sheet");
+    choose("frmBed4", "mnuPrintForm");
+    EXPECT_EQ(notes.back(), "No printer: printed to " + directory.path() + "print/print-001.pdf");
+}
+
+}  // namespace

@@ -1,0 +1,84 @@
+// The manual and its sheets on the screen and on paper.
+#include "text/frm_sheet.h"
+
+#include <gmock/gmock.h>
+
+#include "support/layered_screens.h"
+#include "support/window_checks.h"
+#include "text/frm_help1.h"
+#include "text/manual.h"
+#include "text/pages.h"
+#include "text/sheets.h"
+
+namespace {
+
+class Texts : public LayeredScreens {
+  protected:
+    Texts() {
+        screens.add("frmHelp1", [this] { return std::make_unique<frmHelp1>(program); });
+        addSheets(program);
+    }
+};
+
+TEST_F(Texts, TheManualShowsOneSectionAtATimeAndPrintsIt) {
+    for (int number = 1; number <= 10; ++number) {
+        showManual(program, number);
+        Form& help = *screens.loaded("frmHelp1");
+        const ManualSection& section = manualSections()[static_cast<std::size_t>(number - 1)];
+        expectWellMade(help);
+        EXPECT_EQ(help.control<Label>("Label1").caption(), section.title);
+        EXPECT_EQ(help.control<HelpBox>("txtHelp1").textValue(), textPage(section.page, "\r\n"));
+        EXPECT_EQ(store.HelpText, textPage(section.page, "\r\n"));
+        choose(help, "mnuPrint");
+        EXPECT_FALSE(printer.jobs.empty());
+        EXPECT_EQ(printer.jobs.back().size, 10);
+    }
+    choose(*screens.loaded("frmHelp1"), "mnuExit");
+    EXPECT_EQ(screens.loaded("frmHelp1"), nullptr);
+    EXPECT_THROW(showManual(program, 11), RunTimeError);
+    EXPECT_EQ(screens.loaded("frmHelp1"), nullptr);
+}
+
+TEST_F(Texts, EverySheetShowsAndPrintsItsFigureAndItsText) {
+    for (const Sheet& sheet : sheets()) {
+        printer.jobs.clear();
+        printer.pages.clear();
+        showSheet(program, sheet.form);
+        Form& form = *screens.loaded(sheet.form);
+        expectWellMade(form);
+        const auto& text = form.control<HelpBox>("txtHelp");
+        const auto& picture = form.control<PagePicture>("Image1");
+        EXPECT_GT(text.height(), 6 * text.fontMetrics().lineSpacing()) << sheet.form;
+        EXPECT_GT(picture.height(), form.height() / 3) << sheet.form;
+
+        const int before = form.height();
+        choose(form, "mnuPrintForm");
+        EXPECT_EQ(form.height(), before);
+        ASSERT_EQ(printer.pages.size(), 1U);
+        EXPECT_EQ(printer.pages[0].height, static_cast<float>(sheet.printHeight));
+        EXPECT_EQ(printer.pages[0].ops.size(), sheet.picture().ops.size());
+
+        choose(form, sheet.mnuPrintText.c_str());
+        ASSERT_FALSE(printer.jobs.empty());
+        EXPECT_TRUE(printer.jobs[0].lines[5].ends_with(text.toPlainText().section('\n', 0, 0).toStdString()));
+        choose(form, "mnuExit");
+        EXPECT_EQ(screens.loaded(sheet.form), nullptr);
+    }
+}
+
+TEST_F(Texts, TheInputMenuOpensTheFailureEnvelope) {
+    Form& menu = *screens.load("frmBEDFORM");
+    click(menu, "mnuMohr");
+    Form* sheet = screens.loaded("frmMohr");
+    ASSERT_NE(sheet, nullptr);
+    const Page& page = sheet->control<PagePicture>("Image1").page();
+    for (const char* label : {"= Angle of internal friction", "= Vertical stress", "= Horizontal stress"}) {
+        const auto is = [&](const PageOp& op) {
+            const auto* text = std::get_if<PageText>(&op);
+            return text && text->text == label;
+        };
+        EXPECT_TRUE(std::any_of(page.ops.begin(), page.ops.end(), is)) << label;
+    }
+}
+
+}  // namespace
