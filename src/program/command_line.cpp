@@ -104,7 +104,7 @@ std::vector<Page> contourPages(const PlotRequest& request, const std::string& de
 
 std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
     if (request.contour) return contourPages(request, deck);
-    if (isSlabDeck(deck)) {
+    if (plottedKind(deck) == DeckKind::Slab) {
         SlabPlot plot(plotFile(deck, ".PAN"));
         return wantedPages(request, [&] { return plot.next(); });
     }
@@ -116,6 +116,8 @@ int plot(const PlotRequest& request) {
     const std::string deck = deckFile(request.deck);
     std::vector<Page> pages;
     try {
+        if (request.contour && plottedKind(deck) == DeckKind::Layered)
+            return fail(deck, "only slab decks have contours");
         pages = plotPages(request, deck);
     } catch (const RunTimeError& error) {
         return fail(deck, error.fault() == Fault::FileNotFound ? "no plot file; solve the deck first"
