@@ -76,13 +76,12 @@ std::string plotFile(const std::string& deck, const std::string& extension) {
     return resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", extension));
 }
 
-/// A deck that does not tell its kind, or is not there, is a slab deck if there is only a slab plot file.
-bool isSlabDeck(const std::string& deck) {
-    const bool there = std::filesystem::exists(deck);
-    const DeckKind kind = there ? deckKind(deck) : DeckKind::Unknown;
-    if (kind != DeckKind::Unknown) return kind == DeckKind::Slab;
-    return std::filesystem::exists(plotFile(deck, ".PAN")) &&
-           !std::filesystem::exists(plotFile(deck, ".BED"));
+/// A deck that does not tell its kind, or is not there, is of the kind of which it has a plot file.
+DeckKind plottedKind(const std::string& deck) {
+    const DeckKind kind = std::filesystem::exists(deck) ? deckKind(deck) : DeckKind::Unknown;
+    if (kind != DeckKind::Unknown) return kind;
+    const bool slabPlot = std::filesystem::exists(plotFile(deck, ".PAN"));
+    return slabPlot && !std::filesystem::exists(plotFile(deck, ".BED")) ? DeckKind::Slab : DeckKind::Layered;
 }
 
 /// Pages build on each other, so those before the wanted one are always built. `nextPage` gives one after
@@ -111,7 +110,7 @@ std::vector<Page> contourPages(const PlotRequest& request, const std::string& de
 
 std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
     if (request.contour) return contourPages(request, deck);
-    if (isSlabDeck(deck)) {
+    if (plottedKind(deck) == DeckKind::Slab) {
         SlabPlot plot(plotFile(deck, ".PAN"));
         return wantedPages(request, [&] { return plot.next(); });
     }
@@ -123,6 +122,8 @@ int plot(const PlotRequest& request) {
     const std::string deck = deckFile(request.deck);
     std::vector<Page> pages;
     try {
+        if (request.contour && plottedKind(deck) == DeckKind::Layered)
+            return fail(deck, "only slab decks have contours");
         pages = plotPages(request, deck);
     } catch (const RunTimeError& error) {
         return fail(deck, error.fault() == Fault::FileNotFound ? "no plot file; solve the deck first"

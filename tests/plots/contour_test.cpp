@@ -9,6 +9,7 @@
 #include "plots/contour_tracer.h"
 #include "plots/pan_samples.h"
 #include "support/page_reading.h"
+#include "support/text_change.h"
 
 namespace {
 
@@ -164,12 +165,6 @@ Asked plotted(const std::string& text, int& DIRN, const std::string& answer = "a
 Asked plotted(const std::string& text) {
     int DIRN = 0;
     return plotted(text, DIRN);
-}
-
-std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), by);
 }
 
 TEST(ContourPlot, FourPagesForTwoLayers) {

@@ -9,6 +9,7 @@
 #include "plots/bed_samples.h"
 #include "support/page_reading.h"
 #include "support/temporary_directory.h"
+#include "support/text_change.h"
 
 namespace {
 
@@ -19,12 +20,6 @@ std::vector<Page> pagesOf(const std::string& text) {
     std::vector<Page> pages;
     while (auto page = plot.next()) pages.push_back(*page);
     return pages;
-}
-
-std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), by);
 }
 
 // The views on the page, with its margin.

@@ -7,6 +7,7 @@
 
 #include "plots/pan_samples.h"
 #include "support/page_reading.h"
+#include "support/text_change.h"
 
 namespace {
 
@@ -15,12 +16,6 @@ std::vector<Page> pagesOf(const std::string& text) {
     std::vector<Page> pages;
     while (auto page = plot.next()) pages.push_back(*page);
     return pages;
-}
-
-std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    const std::size_t at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), by);
 }
 
 constexpr Colour black = 0, green = 0x008000, blue = 0x0000FF, red = 0xFF0000, magenta = 0xFF00FF;
