@@ -21,7 +21,7 @@ struct NonlinearLayer {
 
 struct Nonlinear {
     Boxes general;
-    Cells relaxation;
+    Cells relaxation = {};
     std::vector<NonlinearLayer> layers;
 };
 
@@ -32,7 +32,7 @@ struct Viscoelastic {
     Cells layers;
     std::string wordOfTemperatures;  ///< under Temperature after Layer
     std::vector<Cells> creep;        ///< by layer
-    std::vector<Cells> temperatures;
+    std::vector<Cells> temperatures = {};
 };
 
 struct Damage {
@@ -43,12 +43,12 @@ struct Damage {
 struct Journey {
     std::string name;
     Boxes general;
-    Cells depths, layers;
+    Cells depths = {}, layers;
     std::vector<Cells> moduli;  ///< by period
     std::vector<LoadGroup> loads;
-    std::optional<Nonlinear> nonlinear;
-    std::optional<Viscoelastic> viscoelastic;
-    std::optional<Damage> damage;
+    std::optional<Nonlinear> nonlinear = {};
+    std::optional<Viscoelastic> viscoelastic = {};
+    std::optional<Damage> damage = {};
     std::string deck;  ///< with plain line ends
 };
 
@@ -222,8 +222,6 @@ const Journey nonlinear = {
                            .relaxation = {".25"},
                            .layers = {{{"2", "8", "0"}, {{"txtK2", ".45"}}, {}, {"0", "5000"}},
                                       {{"3", "13", "1"}, {{"txtK0", ".7"}}, {"2"}, {}}}},
-    .viscoelastic = {},
-    .damage = {},
     .deck = R"( 1  (1) NPROB
 Granular base on soft clay
  2  0  1  1  (3) MATL NDAMA NPY NLG
@@ -261,15 +259,12 @@ const Journey viscoelastic = {.name = "viscoelastic",
                               .layers = {"20", ".4", ".45"},
                               .moduli = {{"0", "70000"}},
                               .loads = {{{"0", "15", "700", "0", "0", "2"}, {"0", "15"}}},
-                              .nonlinear = {},
                               .viscoelastic = Viscoelastic{.general = {{"txtDur", "0"}, {"txtNtyme", "3"}},
                                                            .times = {"1", "10", "100"},
                                                            .wordOfTimes = "input",
                                                            .layers = {"1"},
                                                            .wordOfTemperatures = "default",
-                                                           .creep = {{"1E-6", "2.5E-6", "4E-6"}},
-                                                           .temperatures = {}},
-                              .damage = {},
+                                                           .creep = {{"1E-6", "2.5E-6", "4E-6"}}},
                               .deck = R"( 1  (1) NPROB
 Asphalt under a standing wheel
  3  0  1  1  (3) MATL NDAMA NPY NLG
@@ -302,7 +297,6 @@ const Journey combined = {
     .moduli = {{"0", "30000", "7680"}, {"0", "30000", "3020"}},
     .loads = {{{"1", "4.2", "90", "13.5", "0", "2"}, {"0", "0", "0", "6.75"}}},
     .nonlinear = Nonlinear{.general = {{"txtYcnol", "6.75"}, {"txtSld", "0"}},
-                           .relaxation = {},
                            .layers = {{{"3", "15", "1"}, {}, {"3", "2"}, {"5000"}}}},
     .viscoelastic = Viscoelastic{.general = {},
                                  .times = {},
@@ -312,7 +306,6 @@ const Journey combined = {
                                  .creep = {{"5E-7", "6E-7", "8E-7", "1.1E-6", "1.6E-6", "2.3E-6", "3.4E-6",
                                             "4.8E-6", "6.5E-6", "8E-6", "9E-6"}},
                                  .temperatures = {{"50"}, {"85.5"}}},
-    .damage = {},
     .deck = R"( 1  (1) NPROB
 Two seasons
  4  0  2  1  (3) MATL NDAMA NPY NLG
@@ -355,13 +348,10 @@ const Journey damage = {
                 {"txtNpy", "2"},
                 {"txtNlg", "2"},
                 {"txtNunit", "1"}},
-    .depths = {},
     .layers = {"15", ".35", "20", ".3", ".45"},
     .moduli = {{"3000000", "200000", "60000"}, {"1500000", "150000", "40000"}},
     .loads = {{{"1", "11", "700", "34", "0", "2"}, {"0", "0", "0", "17"}},
               {{"2", "11", "700", "34", "122", "2"}, {"0", "0", "0", "17"}}},
-    .nonlinear = {},
-    .viscoelastic = {},
     .damage = Damage{.bottom = {"1"}, .top = {"3"}, .repetitions = {{"10000", "5000"}, {"8000", "1E4"}}},
     .deck = R"( 1  (1) NPROB
 Damage by duals and tandems

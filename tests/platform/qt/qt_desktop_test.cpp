@@ -36,7 +36,6 @@ class ShellTest : public ::testing::Test {
     }
 
     std::string solver() const { return directory.path() + "TOLSTRAT.EXE"; }
-    void makeExecutable() const { std::filesystem::permissions(solver(), std::filesystem::perms::owner_all); }
     void letSolverGoOn() const { directory.write("go on", ""); }
     bool finished() const { return std::filesystem::exists(directory.path() + "finished"); }
 
