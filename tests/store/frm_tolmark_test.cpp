@@ -119,12 +119,9 @@ TEST_F(MainScreen, TheHistoryComesBackAndExitWritesIt) {
     EXPECT_EQ(path().textValue(), data.path());
     EXPECT_EQ(file().textValue(), "one.dat");
 
-    click("cmdExit");
-    EXPECT_EQ(exits, 1);
-    EXPECT_EQ(machine.read("DataPath"), data.path() + "\r\n/b/\r\n/c/\r\n");
-
     type(path(), "/new/");
     click("cmdExit");
+    EXPECT_EQ(exits, 1);
     EXPECT_EQ(machine.read("DataPath"), "/new/\r\n" + data.path() + "\r\n/b/\r\n/c/\r\n");
 }
 
@@ -250,8 +247,6 @@ TEST_F(MainScreen, ASolverGetsThePathWithoutExtensionAsOneArgument) {
     };
     const std::vector<Case> cases = {
         {"cmdTolstrat", data.path(), "road", "road.DAT", "TOLSTRAT.EXE", data.path() + "road"},
-        {"cmdTolstrat", data.path(), "two lane.dat", "two lane.dat", "TOLSTRAT.EXE",
-         data.path() + "two lane"},
         {"cmdTolplate", data.path(), "slab.Dat", "slab.Dat", "TOLPLATE.EXE", data.path() + "slab"},
         {"cmdLarge", data.path(), "a.b", "a.b.DAT", "TOLGIANT.EXE", data.path() + "a.b"},
         {"cmdTolstrat", "/tmp/x", "road.DAT", "road.DAT", "TOLSTRAT.EXE", "/tmp/xroad"},
