@@ -207,6 +207,13 @@ TEST_F(TableFormTest, LineKeysAlsoFromTheNumberPadAndNeverToTheClipboard) {
     EXPECT_EQ(QApplication::clipboard()->text(), "kept");
 }
 
+TEST_F(TableFormTest, EnterTurnsThePageOnTheScreen) {
+    FlexGrid& table = grid(open(104, "frmSpread2", 9, 3));
+    for (int entry = 0; entry < 10; ++entry) enter("1");
+    EXPECT_EQ(at(table), "6,1");
+    EXPECT_EQ(table.TopRow(), 4) << "the last page of ten rows";
+}
+
 TEST_F(TableFormTest, TheTextBoxFollowsItsCellUntilItIsOutOfSight) {
     Form& form = open(103, "frmspreadb", 60, 2);
     FlexGrid& table = grid(form);

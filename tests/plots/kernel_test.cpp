@@ -61,6 +61,15 @@ TEST(Kernel, NumbersAreRoundedInTheirVariable) {
     EXPECT_THROW(formatInPlace(big, "0.0E+0"), RunTimeError) << "3.3E+4 is no Integer";
 }
 
+TEST(Kernel, ARectangleIsItsOutlineInOrder) {
+    Kernel q = sectionWindow();
+    q.PaintRCT(0, 100, 0, 18.75F, 13);
+    std::vector<float> corners;
+    for (const PageLine& line : opsOf<PageLine>(q.page()))
+        corners.insert(corners.end(), {std::round(line.x1), std::round(line.y1)});
+    EXPECT_THAT(corners, ElementsAre(2606, 4031, 6932, 4031, 6932, 6249, 2606, 6249));
+}
+
 TEST(Kernel, AxesHaveTicksAndLabelsAtTheirPlaces) {
     Kernel q = sectionWindow();
     q.QStep = {20, 865.2F, 10, 535.5F};

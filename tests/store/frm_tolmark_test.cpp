@@ -155,6 +155,18 @@ TEST_F(MainScreen, TypingADirectoryFollowsAtEveryKey) {
     EXPECT_EQ(desktop.made.back(), data.path());
 }
 
+TEST_F(MainScreen, AChoiceFromTheHistoryOpensTheDirectory) {
+    data.write("one.dat", "");
+    machine.write("two.dat", "");
+    writeHistory({machine.path(), data.path()});
+    start();
+    path().showPopup();
+    QTest::keyClick(path().view(), Qt::Key_Down);
+    QTest::keyClick(path().view(), Qt::Key_Return);
+    EXPECT_EQ(store.cmbDirectory, data.path());
+    EXPECT_EQ(file().textValue(), "one.dat");
+}
+
 TEST_F(MainScreen, ABareDirectoryLiesUnderTheLastFullOne) {
     addScreen("frmBEDFORM");
     start();

@@ -81,6 +81,11 @@ TEST(OptionButton, RunsClickWhenSetToTrueAndAtEveryClickOfTheUser) {
     EXPECT_EQ(clicks, 2);
     second.setValue(true);
     EXPECT_FALSE(first.value());
+    second.setValue(false);
+    EXPECT_FALSE(second.value());
+    first.setValue(true);
+    first.setValue(false);
+    EXPECT_EQ(clicks, 3);
 }
 
 TEST(TextBox, ClickIsTheLeftMouseButtonAndNeverTab) {

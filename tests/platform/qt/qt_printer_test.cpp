@@ -72,6 +72,14 @@ TEST_F(QtPrinterTest, NothingOfALongTextIsLost) {
     EXPECT_EQ(sheets[2].trimmed(), "after");
 }
 
+TEST_F(QtPrinterTest, AJobOfTheTextRoutineIsOneSheet) {
+    if (!canRead()) GTEST_SKIP() << "no pdftotext";
+    printer.FontBold = true;
+    for (int line = 1; line <= 5 + 58; ++line) printer.Print(12, std::to_string(line));
+    printer.EndDoc();
+    EXPECT_EQ(textOf("print/print-001.pdf").count('\f'), 1);
+}
+
 TEST_F(QtPrinterTest, AFailureIsToldAndThrown) {
     directory.write("print", "a file where the folder should be");
     EXPECT_THROW(printer.PrintForm({10815, 7650, {}}), RunTimeError);
