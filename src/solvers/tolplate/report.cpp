@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "plots/pan_file.h"
 #include "solvers/report_lines.h"
@@ -21,19 +22,21 @@ const plate::NodeResult& at(const plate::Case& c, int node) {
     return c.nodes[static_cast<std::size_t>(node - 1)];
 }
 
-/// All nodes with the detailed printout, else those whose stresses are reported.
-std::vector<int> printedNodes(const SlabSet& set, const plate::Case& c) {
+int nodeCount(const SlabSet& set) { return nodesBefore(set, set.NSLAB + 1); }
+
+/// Nodes whose stresses are printed: the reported ones, with the detailed printout all.
+std::vector<int> stressNodes(const SlabSet& set, const plate::Case& c) {
     if (set.MDPO == 0) return reportedNodes(set, group(c));
-    std::vector<int> nodes;
-    for (int n = 1; n <= nodesBefore(set, set.NSLAB + 1); ++n) nodes.push_back(n);
+    std::vector<int> nodes(static_cast<std::size_t>(nodeCount(set)));
+    std::iota(nodes.begin(), nodes.end(), 1);
     return nodes;
 }
 
-/// A principal direction would be undefined for what is only round-off.
+/// What is only round-off beside `scale` prints as 0.
 double cleaned(double value, double scale) { return std::abs(value) < 1e-12 * scale ? 0 : value; }
 
 void writeContact(std::ostream& out, const SlabSet& set, const plate::ContactReport& r) {
-    const int nodes = nodesBefore(set, set.NSLAB + 1);
+    const int nodes = nodeCount(set);
     if (!r.checked) return;
     line(out, printed("Contact: %d cycles, %d of %d nodes in contact", r.cycles, r.byRule, nodes));
     if (r.returned > 0 || r.released > 0)
@@ -45,15 +48,22 @@ void writeContact(std::ostream& out, const SlabSet& set, const plate::ContactRep
         line(out, "The cycles took out so many nodes that a slab lost its support; the check began anew.");
 }
 
+/// At all nodes. The detailed printout adds what a data set that continues from this one starts with.
 void writeDeflections(std::ostream& out, const SlabSet& set, const plate::Case& c) {
     const SlabUnits& u = slabUnits(set.NUNIT);
+    const bool detailed = set.MDPO == 1;
     line(out);
-    line(out, std::string("Deflection w (") + u.length + "), rotations rx, ry, reaction (" + u.force + ")");
-    line(out, "   Node            w           rx           ry     reaction  contact");
-    for (int n : printedNodes(set, c)) {
+    line(out, std::string("Deflection w (") + u.length + "), rotations rx, ry, reaction (" + u.force +
+                  (detailed ? std::string("); gap (") + u.length + ") and whole reaction left" : ")"));
+    line(out, std::string("   Node            w           rx           ry     reaction  contact") +
+                  (detailed ? "          gap        whole" : ""));
+    for (int n = 1; n <= nodeCount(set); ++n) {
         const plate::NodeResult& r = at(c, n);
-        line(out, printed("  %5d", n) + cell(r.w) + cell(r.rx) + cell(r.ry) + cell(r.reaction) +
-                      (r.contact ? "   yes" : "   no"));
+        const auto i = static_cast<std::size_t>(n - 1);
+        std::string text = printed("  %5d", n) + cell(r.w) + cell(r.rx) + cell(r.ry) + cell(r.reaction) +
+                           printed("%9s", r.contact ? "yes" : "no");
+        if (detailed) text += cell(c.state.gap[i]) + cell(c.state.reaction[i]);
+        line(out, text);
     }
 }
 
@@ -65,7 +75,7 @@ void writeStresses(std::ostream& out, const SlabSet& set, const plate::Case& c, 
     line(out,
          "   Node           sx           sy          sxy           s1           s2           mx           my"
          "          mxy");
-    for (int n : printedNodes(set, c)) {
+    for (int n : stressNodes(set, c)) {
         const plate::LayerResult& l = at(c, n).layers[static_cast<std::size_t>(layer - 1)];
         const double stress = std::max(std::abs(l.s1), std::abs(l.s2));
         const double moment = std::max({std::abs(l.mx), std::abs(l.my), std::abs(l.mxy)});

@@ -3,6 +3,7 @@
 
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "slab/slab_set.h"
 #include "solvers/plate/plate.h"
