@@ -2,23 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "layered/layered_cards.h"
-#include "platform/run_time_error.h"
+#include "store/card_check.h"
 #include "store/store.h"
 
 namespace {
 
-/// What a value of a field must be, and the words for it.
-struct Rule {
-    int card;
-    const char* field;
-    bool (*holds)(Double x, const LayeredSet& s, const Place& at);
-    const char* demand;
-};
-
-bool isWhole(Double x, Double least, Double most) { return x >= least && x <= most && x == std::floor(x); }
+using Set = LayeredSet;
 
 /// A depth counts as within a layer when it misses the boundary by this part of itself: thicknesses of seven
 /// digits add up with rounding errors.
@@ -74,12 +65,9 @@ bool isNearAll(const LayeredSet& s, Double distance) {
 Double leastPoints(const LayeredSet& s) { return s.NDAMA > 0 ? 1 : 0; }
 constexpr const char* POINTS_DEMAND = "there must be 0 to 25 points, for a damage analysis at least 1";
 
-#define HOLDS(condition)                                                \
-    []([[maybe_unused]] Double x, [[maybe_unused]] const LayeredSet& s, \
-       [[maybe_unused]] const Place& at) -> bool { return condition; }
+#define HOLDS VALUE_HOLDS
 
-// Comparisons are written so that what is no number does not hold.
-const Rule rules[] = {
+const ValueRule<Set> rules[] = {
     {3, "MATL", HOLDS(isWhole(x, 1, 4)), "MATL must be 1, 2, 3 or 4"},
     {3, "NDAMA", HOLDS(isWhole(x, 0, 2)), "NDAMA must be 0, 1 or 2"},
     {3, "NPY", HOLDS(isWhole(x, 1, 12)), "there must be 1 to 12 periods"},
@@ -153,42 +141,10 @@ const Rule rules[] = {
     {51, "FT4", HOLDS(x > 0), "the coefficient must be greater than 0"},
 };
 
-class Checker : public CardWalker<LayeredSet> {
-  public:
-    /// The cells are only read.
-    Checker(const LayeredSet& set, DeckPlace& where) : CardWalker(const_cast<LayeredSet&>(set), where) {}
-
-  private:
-    void value(const Card<LayeredSet>& card, const Run<LayeredSet>&, Cell cell) override {
-        if (std::holds_alternative<std::string*>(cell)) return;
-        const Variant value = std::visit([](const auto* held) { return Variant(*held); }, cell);
-        if (!value.isNumeric()) fail(value.isEmptyText() ? "empty" : value.text(), "a number is needed");
-        const Double x = value.number();
-        if (!std::isfinite(x)) fail("not finite", "a number is needed");
-        if (std::abs(x) > std::numeric_limits<Single>::max())
-            fail(value.text(), "the number must be below 3.4E+38");
-        for (const Rule& rule : rules)
-            if (rule.card == card.number && where_.field == rule.field && !rule.holds(x, set(), where_.at))
-                fail(value.text(), rule.demand);
-    }
-
-    [[noreturn]] void fail(const std::string& said, const std::string& demand) const {
-        throw DeckFault{where_, where_.text(said) + ": " + demand};
-    }
-};
-
 }  // namespace
 
 std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number) {
-    DeckPlace where{number, 0, "", {}};
-    try {
-        Checker(set, where).walk(layeredCards());
-    } catch (const DeckFault& fault) {
-        return fault;
-    } catch (const RunTimeError& error) {
-        return DeckFault{where, where.text() + ": " + error.what()};
-    }
-    return std::nullopt;
+    return checkCards<Set>(layeredCards(), rules, set, number);
 }
 
 std::optional<DeckFault> checkLayeredDeck(const Store& store) {

@@ -1,94 +1,28 @@
 #include "plots/bed_file.h"
 
-#include <charconv>
-#include <cmath>
-
-#include "platform/run_time_error.h"
+#include "plots/plot_items.h"
 
 namespace {
 
-// The order of the file is stated once, by the templates below. They walk a problem with a Source, which
-// reads each item into it, or with a Sink, which writes each item of it.
-
-class Source {
+class Source : public PlotSource {
   public:
-    explicit Source(ListReader& in) : in_(in) {}
-
-    /// The number in front of a title ends its own line as a rule; then the title is on the next one.
-    void title(std::string& text) {
-        text = in_.readText();
-        if (text.empty()) text = in_.readText();
-    }
-    void item(Integer& value) { value = in_.readInteger(); }
-    void item(Long& value) { value = in_.readLong(); }
-    void item(Single& value) { value = in_.readSingle(); }
-    void item(Variant& value) { value = in_.readDouble(); }
-    void endLine() {}
-    /// The plot holds fewer radial coordinates than a deck may have.
-    void radialPoints(Integer NR) {
-        if (NR > BedProblem::RADIAL_POINTS) throw RunTimeError(Fault::SubscriptOutOfRange, "RC");
-    }
+    using PlotSource::PlotSource;
 
     /// What further axles add to ratios from..to of one period and load group.
     void additions(Bounded<Single, 19>& ratios, Bounded<Single, 19>&, int from, int to) {
         for (int j = from; j <= to; ++j)
             ratios[j] = ToSingle(static_cast<Double>(ratios[j]) + static_cast<Double>(in_.readSingle()));
     }
-
-  private:
-    ListReader& in_;
 };
 
-class Sink {
+class Sink : public PlotSink {
   public:
-    explicit Sink(ListWriter& out) : out_(out) {}
-
-    void title(const std::string& text) {
-        std::string quoted = "\"";
-        for (const char c : text) quoted += c == '"' ? "''" : std::string(1, c);
-        out_.line(quoted + '"');
-    }
-    void item(Integer value) { out_.number(value); }
-    void item(Long value) { put(value); }
-    void item(Single value) { put(value); }
-    void item(const Variant& value) {
-        if (const Single* single = std::get_if<Single>(&value.value()))
-            put(*single);
-        else
-            put(value.number());
-    }
-    void endLine() { out_.endLine(); }
-    void radialPoints(Integer) {}
+    using PlotSink::PlotSink;
 
     void additions(const Bounded<Single, 19>&, const Bounded<Single, 19>& added, int from, int to) {
         for (int j = from; j <= to; ++j) item(added[j]);
     }
-
-  private:
-    /// With the fewest digits that read back as the same value.
-    template <class Number>
-    void put(Number value) {
-        if constexpr (std::is_floating_point_v<Number>)
-            if (!std::isfinite(value)) throw RunTimeError(Fault::Overflow, "a result is not finite");
-        char digits[40];
-        const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-        out_.text(" " + std::string(digits, end) + " ");
-    }
-    ListWriter& out_;
 };
-
-template <class File, class... Items>
-void line(File& file, Items&... items) {
-    (file.item(items), ...);
-    file.endLine();
-}
-
-/// Elements from..to of one or more arrays, side by side.
-template <class File, class... Arrays>
-void list(File& file, int from, int to, Arrays&... arrays) {
-    for (int i = from; i <= to; ++i) (file.item(arrays[i]), ...);
-    if (from <= to) file.endLine();
-}
 
 template <class File, class Bed>
 void loadGroup(File& file, Bed& bed, int g) {
@@ -99,7 +33,7 @@ void loadGroup(File& file, Bed& bed, int g) {
         list(file, 1, bed.NPT[g], bed.XPT[g], bed.YPT[g]);
     } else {
         line(file, bed.NR[g]);
-        file.radialPoints(bed.NR[g]);
+        file.limit(bed.NR[g], BedProblem::RADIAL_POINTS);
         list(file, 1, bed.NR[g], bed.RC[g]);
     }
 }

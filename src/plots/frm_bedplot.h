@@ -10,7 +10,6 @@ class frmBEDPLOT : public PlotScreen {
   public:
     explicit frmBEDPLOT(Program& program) : PlotScreen(program, "frmBEDPLOT", "BEDPLOT") {}
 
-    /// Plots the file that belongs to the store's FileName. "File not found" and "Data error" are told in
-    /// message boxes; the pages answered before have gone.
+    /// Plots the file that belongs to the store's FileName.
     void Form_Load() override;
 };

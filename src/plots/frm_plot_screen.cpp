@@ -54,9 +54,28 @@ std::string PlotScreen::plotFile(const std::string& extension) const {
     return resolveIn(store.cmbDirectory, plotFileName(store.FileName, extension));
 }
 
-void PlotScreen::present(const Page& page) {
+void PlotScreen::runPlot(const std::function<void()>& open, const std::function<void()>& showPages) {
+    setUpPage();
+    try {
+        open();
+    } catch (const RunTimeError&) {
+        fail("File not found");
+        return;
+    }
+    try {
+        showPages();
+    } catch (const RunTimeError&) {
+        fail("Data error");
+    }
+}
+
+void PlotScreen::display(const Page& page) {
     setPage(page);
     Show();
+}
+
+void PlotScreen::present(const Page& page) {
+    display(page);
     if (program_.dialogs.MsgBox("Want to print on the printer?", Buttons::YesNo) == Answer::Yes) print(page);
     setPage({});
 }
@@ -71,8 +90,7 @@ void PlotScreen::print(const Page& page) {
 }
 
 void PlotScreen::fail(const std::string& message) {
-    setPage({});
-    Show();
+    display({});
     program_.dialogs.MsgBox(message);
 }
 

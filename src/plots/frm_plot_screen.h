@@ -2,6 +2,7 @@
 // each page, and the message of a run that fails.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/page.h"
@@ -25,11 +26,14 @@ class PlotScreen : public Form {
     static Corner cornerOn(int screenWidth, int screenHeight);
 
   protected:
-    /// The page's own size and place, and the line break that all built texts use.
-    void setUpPage();
+    /// Sets the page up, opens a plot and shows its pages. "File not found" and "Data error" are told in
+    /// message boxes; the pages answered before have gone.
+    void runPlot(const std::function<void()>& open, const std::function<void()>& showPages);
     /// The name of the plot file with this extension that belongs to the shared file name.
     std::string plotFile(const std::string& extension) const;
-    /// Shows the page, asks whether to print it, and clears the screen. The form is shown too.
+    /// Puts the page on the screen and shows the form.
+    void display(const Page& page);
+    /// Displays the page, asks whether to print it, and clears the screen.
     void present(const Page& page);
     /// Clears the screen, which stays, and tells `message`.
     void fail(const std::string& message);
@@ -38,6 +42,8 @@ class PlotScreen : public Form {
     Program& program_;
 
   private:
+    /// The page's own size and place, and the line break that all built texts use.
+    void setUpPage();
     void print(const Page& page);
     void setPage(const Page& page);
 

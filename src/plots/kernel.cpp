@@ -4,12 +4,12 @@
 
 #include "platform/run_time_error.h"
 
-namespace {
-
 Single finite(Single value) {
     if (!std::isfinite(value)) throw RunTimeError(Fault::Overflow);
     return value;
 }
+
+namespace {
 
 /// One half of the mapping: the share of the real range, as a percentage of the page, in device units.
 Single mapped(Single value, Single real1, Single real2, Single percent1, Single percent2, Long device1,
@@ -128,8 +128,13 @@ void Kernel::QYaxis(Single x0, Single y0) {
 }
 
 void Kernel::Line(Single x1, Single y1, Single x2, Single y2, Colour colour) {
+    page_.ops.push_back(PageLine{QMargin + x1, QMargin + y1, QMargin + x2, QMargin + y2, colour, DrawWidth,
+                                 DrawStyle == Pen::Dotted});
+}
+
+void Kernel::Box(Single x1, Single y1, Single x2, Single y2, Colour colour) {
     page_.ops.push_back(
-        PageLine{QMargin + x1, QMargin + y1, QMargin + x2, QMargin + y2, colour, DrawWidth, false});
+        PageBox{QMargin + x1, QMargin + y1, QMargin + x2, QMargin + y2, colour, DrawWidth, std::nullopt});
 }
 
 void Kernel::Circle(Single x, Single y, Single radius, Colour colour) {

@@ -22,6 +22,9 @@ std::string formatInPlace(Long& value, std::string_view format);
 std::string formatInPlace(Single& value, std::string_view format);
 std::string formatInPlace(Variant& value, std::string_view format);
 
+/// The value, or Overflow where arithmetic has left the Singles.
+Single finite(Single value);
+
 class Kernel {
   public:
     static constexpr Single QMargin = 1200;
@@ -42,6 +45,7 @@ class Kernel {
         Single ix = 0, iy = 0;
     };
     enum class Fill { Solid, Transparent };
+    enum class Pen { Solid, Dotted };
 
     Window QWin;
     Device QDev;
@@ -52,6 +56,7 @@ class Kernel {
     Colour FillColor = 0;
     Fill FillStyle = Fill::Transparent;
     int DrawWidth = 1;
+    Pen DrawStyle = Pen::Solid;  ///< of lines
     PageFont Font;
 
     /// A blank page; its device rectangle is set by QScreen.
@@ -102,6 +107,8 @@ class Kernel {
 
     // The surface itself, in device units without QMargin.
     void Line(Single x1, Single y1, Single x2, Single y2, Colour colour);
+    /// The outline of a rectangle.
+    void Box(Single x1, Single y1, Single x2, Single y2, Colour colour);
     /// Filled with FillColor when FillStyle is solid. A negative radius is InvalidCall.
     void Circle(Single x, Single y, Single radius, Colour colour);
     /// Where the last text ended, the line not ended. An empty text leaves no trace.

@@ -8,8 +8,10 @@
 #include "platform/qt/batch.h"
 #include "platform/qt/page_renderer.h"
 #include "platform/run_time_error.h"
+#include "plots/contour_plot.h"
 #include "plots/layered_plot.h"
 #include "plots/plot_name.h"
+#include "plots/slab_plot.h"
 #include "program/desktop_program.h"
 #include "store/deck_kind.h"
 #include "store/store.h"
@@ -29,25 +31,33 @@ std::string deckFile(const std::string& name) {
     return resolveName(withDatExtension(path));
 }
 
+/// The executable of the solver that decks of this kind are for, nullptr for none.
+const char* solverOf(DeckKind kind) {
+    switch (kind) {
+        case DeckKind::Layered:
+            return "TOLSTRAT.EXE";
+        case DeckKind::Slab:
+            return "TOLPLATE.EXE";
+        case DeckKind::Unknown:
+            break;
+    }
+    return nullptr;
+}
+
 /// Runs the solver that the deck is for and waits for it.
 int solve(const std::string& name, const std::string& programDirectory,
           const std::vector<std::string>& options) {
     const std::string deck = deckFile(name);
-    switch (deckKind(deck)) {
-        case DeckKind::Layered:
-            break;
-        case DeckKind::Slab:
-            return fail(deck, "slab decks cannot be solved so far");
-        case DeckKind::Unknown:
-            return fail(deck, "this is neither a layered nor a slab deck");
-    }
+    const char* solver = solverOf(deckKind(deck));
+    if (!solver) return fail(deck, "this is neither a layered nor a slab deck");
     std::vector<std::string> arguments{deck.substr(0, deck.size() - 4)};
     arguments.insert(arguments.end(), options.begin(), options.end());
-    return runAndWait(programDirectory + "/TOLSTRAT.EXE", arguments);
+    return runAndWait(programDirectory + "/" + solver, arguments);
 }
 
 struct PlotRequest {
     std::string deck, pdf, svg, png;
+    bool contour = false;
     int page = 0;  ///< 0: all of them
     int dpi = 150;
 };
@@ -61,25 +71,65 @@ std::string pageName(const std::string& name, std::size_t number, std::size_t to
         .string();
 }
 
-/// Pages build on each other, so those before the wanted one are always built.
-std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
-    LayeredPlot plot(resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", ".BED")));
+/// The deck's plot file with this extension.
+std::string plotFile(const std::string& deck, const std::string& extension) {
+    return resolveName(plotFileName(deck.substr(0, deck.size() - 4) + ".DAT", extension));
+}
+
+/// A deck that does not tell its kind, or is not there, is of the kind of which it has a plot file.
+DeckKind plottedKind(const std::string& deck) {
+    const DeckKind kind = std::filesystem::exists(deck) ? deckKind(deck) : DeckKind::Unknown;
+    if (kind != DeckKind::Unknown) return kind;
+    const bool slabPlot = std::filesystem::exists(plotFile(deck, ".PAN"));
+    return slabPlot && !std::filesystem::exists(plotFile(deck, ".BED")) ? DeckKind::Slab : DeckKind::Layered;
+}
+
+/// Pages build on each other, so those before the wanted one are always built. `nextPage` gives one after
+/// the other, nothing behind the last.
+template <class NextPage>
+std::vector<Page> wantedPages(const PlotRequest& request, NextPage nextPage) {
     std::vector<Page> pages;
-    for (int number = 1; auto page = plot.next(); ++number) {
+    for (int number = 1; std::optional<Page> page = nextPage(); ++number) {
         if (request.page == 0 || request.page == number) pages.push_back(std::move(*page));
         if (request.page == number) break;
     }
     return pages;
 }
 
+/// Contours take the interval that is proposed.
+std::vector<Page> contourPages(const PlotRequest& request, const std::string& deck) {
+    int DIRN = 0;
+    ContourPlot plot(plotFile(deck, ".PAN"), DIRN);
+    const auto accept = [](const auto&, const auto&, const std::string& proposal) { return proposal; };
+    return wantedPages(request, [&]() -> std::optional<Page> {
+        auto sheet = plot.next(accept);
+        if (!sheet) return std::nullopt;
+        return std::move(sheet->page);
+    });
+}
+
+std::vector<Page> plotPages(const PlotRequest& request, const std::string& deck) {
+    if (request.contour) return contourPages(request, deck);
+    if (plottedKind(deck) == DeckKind::Slab) {
+        SlabPlot plot(plotFile(deck, ".PAN"));
+        return wantedPages(request, [&] { return plot.next(); });
+    }
+    LayeredPlot plot(plotFile(deck, ".BED"));
+    return wantedPages(request, [&] { return plot.next(); });
+}
+
 int plot(const PlotRequest& request) {
     const std::string deck = deckFile(request.deck);
     std::vector<Page> pages;
     try {
+        if (request.contour && plottedKind(deck) == DeckKind::Layered)
+            return fail(deck, "only slab decks have contours");
         pages = plotPages(request, deck);
     } catch (const RunTimeError& error) {
         return fail(deck, error.fault() == Fault::FileNotFound ? "no plot file; solve the deck first"
                                                                : std::string("Data error: ") + error.what());
+    } catch (const NoContours& reason) {
+        return fail(deck, reason.what());
     }
     if (pages.empty()) return fail(deck, "the plot has no page " + std::to_string(request.page));
 
@@ -116,6 +166,7 @@ int runCommandLine(int argc, char** argv) {
     targets->add_option("--svg", request.svg, "one SVG file a page, numbered when there are several");
     targets->add_option("--png", request.png, "one PNG file a page, numbered when there are several");
     targets->require_option(1, 3);
+    plotCommand->add_flag("--contour", request.contour, "the contour plot of a slab deck");
     plotCommand->add_option("--page", request.page, "only this page")->check(CLI::PositiveNumber);
     plotCommand->add_option("--dpi", request.dpi, "resolution of PNG files")->check(CLI::Range(20, 1200));
 

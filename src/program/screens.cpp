@@ -4,6 +4,8 @@
 #include "layered/frm_layered.h"
 #include "platform/qt/form.h"
 #include "plots/frm_bedplot.h"
+#include "plots/frm_contour.h"
+#include "plots/frm_panplot.h"
 #include "slab/frm_slab.h"
 #include "store/frm_tolmark.h"
 #include "text/frm_editor.h"
@@ -25,6 +27,8 @@ void addScreens(Screens& screens, Program& program) {
     addSlabForms(program);
     addTableForms(program);
     screens.add("frmBEDPLOT", make<frmBEDPLOT>(program));
+    screens.add("frmPANPLOT", make<frmPANPLOT>(program));
+    screens.add("frmCONTOUR", make<frmCONTOUR>(program));
     screens.add("frmEditor", make<frmEditor>(program));
     screens.add("frmHelp1", make<frmHelp1>(program));
     addSheets(program);

@@ -12,7 +12,8 @@ constexpr std::size_t widest = 75;  // columns
 /// A line as it fits a page. Only decks have longer ones: values may go on in the next line, and the label
 /// stays with the last of them.
 std::string fitted(const std::string& line, const std::string& lineEnd) {
-    const std::size_t label = std::min(line.find('('), line.size());
+    const std::size_t label = line.find('(');
+    if (label == std::string::npos) return line + lineEnd;
     const std::size_t lastValue = line.rfind(' ', line.find_last_not_of(' ', label - 1));
     std::string text;
     std::size_t start = 0;

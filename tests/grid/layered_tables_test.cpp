@@ -38,6 +38,17 @@ TEST_F(LayeredTablesTest, EachHasACaptionUnitsAndAHelpPage) {
     expectHelpOf(layeredTables());
 }
 
+TEST_F(LayeredTablesTest, CaptionsTellTheNumberOfTheLayerAndUnitsItsColumns) {
+    store.CurLayer = 2;
+    set().NOLLAY[2].LAYNO = 3;
+    set().VISLAY[2].LNV = "4";
+    EXPECT_EQ(open(112, "frmspreadb", 2, 2).caption(),
+              "Seasonal Input Parameters for Layer No. 3 (CLAY) and Data Set No. 1");
+    EXPECT_EQ(open(118, "frmspreadb", 2, 2).caption(), "Creep Compliances of Layer No. 4 for Data Set No. 1");
+    const auto words = open(117, "frmSpread2", 2, 4).unitWords();
+    EXPECT_EQ(words.at(1).text + std::to_string(words.at(1).column), "per F2");
+}
+
 TEST_F(LayeredTablesTest, ClayTypesFillTheModuliOfTheirPeriods) {
     store.CurLayer = 2;
     set().KPER[2][2][1] = 5;

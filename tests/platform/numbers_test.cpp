@@ -7,28 +7,9 @@
 #include <limits>
 #include <random>
 
-#include "platform/run_time_error.h"
+#include "support/faults.h"
 
 namespace {
-
-template <class Call>
-std::string faultOf(Call call) {
-    try {
-        call();
-    } catch (const RunTimeError& error) {
-        switch (error.fault()) {
-            case Fault::Overflow:
-                return "overflow";
-            case Fault::TypeMismatch:
-                return "mismatch";
-            case Fault::InvalidCall:
-                return "invalid";
-            default:
-                return "other";
-        }
-    }
-    return "none";
-}
 
 TEST(Numbers, ValTakesWhatBelongsToANumber) {
     const struct {
@@ -132,8 +113,8 @@ TEST(Numbers, DoublePrintsFifteenDigits) {
     EXPECT_EQ(Str(Long{40000}), " 40000");
     EXPECT_EQ(numberText(.5), ".5");
     EXPECT_EQ(numberText(-.5), "-.5");
-    EXPECT_EQ(faultOf([] { Str(std::nan("")); }), "overflow");
-    EXPECT_EQ(faultOf([] { Str(std::numeric_limits<float>::infinity()); }), "overflow");
+    EXPECT_EQ(faultOf([] { Str(std::nan("")); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { Str(std::numeric_limits<float>::infinity()); }), Fault::Overflow);
 }
 
 /// The value as the text of so many digits says it, by the C library.
@@ -178,15 +159,15 @@ TEST(Numbers, StrictConversionTakesOnlyWholeNumbers) {
         EXPECT_EQ(ToDouble(text), 5) << text;
     for (const char* text : {"", " ", ".", "-", "E5", "5x", "1 2", "1,5", "5E", "5E+", "1.2.3", "- 5", "inf",
                              "nan", "0x5", "\"5\"", "."}) {
-        EXPECT_EQ(faultOf([&] { ToDouble(text); }), "mismatch") << text;
-        EXPECT_EQ(faultOf([&] { ToSingle(text); }), "mismatch") << text;
-        EXPECT_EQ(faultOf([&] { ToInteger(text); }), "mismatch") << text;
+        EXPECT_EQ(faultOf([&] { ToDouble(text); }), Fault::TypeMismatch) << text;
+        EXPECT_EQ(faultOf([&] { ToSingle(text); }), Fault::TypeMismatch) << text;
+        EXPECT_EQ(faultOf([&] { ToInteger(text); }), Fault::TypeMismatch) << text;
         EXPECT_FALSE(IsNumeric(text)) << text;
     }
-    EXPECT_EQ(faultOf([] { ToDouble("1E309"); }), "overflow");
-    EXPECT_EQ(faultOf([] { ToSingle("1E39"); }), "overflow");
-    EXPECT_EQ(faultOf([] { ToSingle(3.402824e38); }), "overflow");
-    EXPECT_EQ(faultOf([] { ToSingle(std::nan("")); }), "overflow");
+    EXPECT_EQ(faultOf([] { ToDouble("1E309"); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { ToSingle("1E39"); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { ToSingle(3.402824e38); }), Fault::Overflow);
+    EXPECT_EQ(faultOf([] { ToSingle(std::nan("")); }), Fault::Overflow);
     EXPECT_EQ(ToSingle(3.402823e38), 3.402823e38f);
     EXPECT_EQ(ToSingle("1E-60"), 0);
     EXPECT_FALSE(IsNumeric("1E309"));
@@ -204,9 +185,9 @@ TEST(Numbers, WholeNumbersRoundHalfToEven) {
         EXPECT_EQ(Variant(row.value).integer(), row.whole) << row.value;
     }
     for (const double value : {32767.5, -32768.6, 1e300, std::nan("")})
-        EXPECT_EQ(faultOf([&] { ToInteger(value); }), "overflow") << value;
+        EXPECT_EQ(faultOf([&] { ToInteger(value); }), Fault::Overflow) << value;
     EXPECT_EQ(ToLong(2147483647.4), 2147483647);
-    EXPECT_EQ(faultOf([] { ToLong("2147483647.5"); }), "overflow");
+    EXPECT_EQ(faultOf([] { ToLong("2147483647.5"); }), Fault::Overflow);
     EXPECT_EQ(Int(-1.5), -2);
     EXPECT_EQ(Int(1.9), 1);
 }
@@ -263,7 +244,7 @@ TEST(Numbers, FormatFollowsItsPattern) {
     EXPECT_EQ(Format(Variant("1.23456E-05"), "0.000E+00"), "1.235E-05");
     EXPECT_EQ(Format(Variant("abc"), "0.0"), "abc");
     for (const char* broken : {"0.0.0", "x", "0.0E-00", "0E+x"})
-        EXPECT_EQ(faultOf([&] { Format(1.0, broken); }), "invalid") << broken;
+        EXPECT_EQ(faultOf([&] { Format(1.0, broken); }), Fault::InvalidCall) << broken;
 }
 
 TEST(Numbers, VariantPrintsAndComparesByItsOwnType) {
@@ -287,11 +268,11 @@ TEST(Numbers, VariantPrintsAndComparesByItsOwnType) {
     EXPECT_TRUE(Variant("").isEmptyText());
     for (const char* text : {"", "abc", "1,5", "XXXXXXXXX"}) {
         EXPECT_FALSE(Variant(text).isNumeric());
-        EXPECT_EQ(faultOf([&] { Variant(text).number(); }), "mismatch");
-        EXPECT_EQ(faultOf([&] { Variant(text).integer(); }), "mismatch");
+        EXPECT_EQ(faultOf([&] { Variant(text).number(); }), Fault::TypeMismatch);
+        EXPECT_EQ(faultOf([&] { Variant(text).integer(); }), Fault::TypeMismatch);
     }
     EXPECT_EQ(Variant("2.5").integer(), 2);
-    EXPECT_EQ(faultOf([] { Variant(40000.0).integer(); }), "overflow");
+    EXPECT_EQ(faultOf([] { Variant(40000.0).integer(); }), Fault::Overflow);
 }
 
 }  // namespace

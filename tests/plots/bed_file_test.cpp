@@ -7,9 +7,9 @@
 #include <random>
 #include <sstream>
 
-#include "platform/run_time_error.h"
 #include "plots/bed_samples.h"
 #include "plots/plot_name.h"
+#include "support/faults.h"
 #include "support/temporary_directory.h"
 
 namespace {
@@ -70,7 +70,6 @@ TEST(BedFile, ReadsItemsWhereverTheyStand) {
     const BedProblem bed = readAll(combined).at(0);
     EXPECT_EQ(bed.K1[2][2], 28000);
     EXPECT_EQ(bed.TEMP[2][1], 12.5F);
-    EXPECT_EQ(bed.CREEP[1][9], Variant(9E-5));
     std::string spread = combined;
     for (std::size_t i = spread.find("\n4 0"); i < spread.size(); ++i)
         if (spread[i] == ' ') spread[i] = i % 2 ? ',' : '\n';
@@ -80,7 +79,6 @@ TEST(BedFile, ReadsItemsWhereverTheyStand) {
 TEST(BedFile, FurtherAxlesAddToTheRatios) {
     const BedProblem bed = readAll(damage).at(0);
     EXPECT_EQ(bed.NZ, 2) << "the damage block's own count";
-    EXPECT_EQ(bed.ZC[2], 8.0001F);
     EXPECT_FLOAT_EQ(bed.DRATIO[1][1][1], 0.01F) << "a single wheel has no additions";
     EXPECT_FLOAT_EQ(bed.DRATIO[1][2][1], 0.031F);
     EXPECT_FLOAT_EQ(bed.DRATIO[2][2][2], 0.42F);
@@ -104,14 +102,8 @@ TEST(BedFile, CountsBeyondTheLimitsAreFaults) {
         "1 0 1 1\n1 0 0\n.4\n10000\n0\n6 80\n11\n0 1 2 3 4 5 6 7 8 9 10",  // radial coordinates
         "2 0 1 1\n1 0 0\n.4\n10000\n0\n6 80\n0\n1\n20 0",                  // layer of a nonlinear entry
     };
-    for (const char* file : files) {
-        try {
-            readAll(head + file + "\n");
-            ADD_FAILURE() << file;
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.fault(), Fault::SubscriptOutOfRange) << file;
-        }
-    }
+    for (const char* file : files)
+        EXPECT_EQ(faultOf([&] { readAll(head + file + "\n"); }), Fault::SubscriptOutOfRange) << file;
 }
 
 TEST(BedFile, WhatCannotBeReadBackIsNotWritten) {

@@ -4,7 +4,7 @@
 
 #include <cfloat>
 
-#include "platform/run_time_error.h"
+#include "support/faults.h"
 #include "support/page_reading.h"
 
 namespace {
@@ -19,25 +19,15 @@ Kernel sectionWindow() {
 }
 
 TEST(Kernel, FaultsOfTheMappingAreRunTimeErrors) {
-    struct Case {
-        Single RX2, RY1, x;
-        Fault fault;
-    };
-    const Case cases[] = {{0, 10, 5, Fault::DivisionByZero},
-                          {100, 0, 5, Fault::DivisionByZero},
-                          {100, 10, FLT_MAX, Fault::Overflow},
-                          {FLT_MIN, 10, 1e30F, Fault::Overflow}};
-    for (const Case& c : cases) {
+    const auto mapping = [](Single RX2, Single RY1, Single x) {
         Kernel q;
         q.QScreen();
-        q.QPlotSetup(13, 53, 34, 63, 0, c.RX2, c.RY1, 0);
-        try {
-            q.QRtoI(c.x, 5);
-            ADD_FAILURE() << c.RX2 << " " << c.RY1 << " " << c.x;
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.fault(), c.fault);
-        }
-    }
+        q.QPlotSetup(13, 53, 34, 63, 0, RX2, RY1, 0);
+        return faultOf([&] { q.QRtoI(x, 5); });
+    };
+    EXPECT_EQ(mapping(0, 10, 5), Fault::DivisionByZero);
+    EXPECT_EQ(mapping(100, 0, 5), Fault::DivisionByZero);
+    EXPECT_EQ(mapping(FLT_MIN, 10, 1e30F), Fault::Overflow);
 }
 
 TEST(Kernel, NumbersAreRoundedInTheirVariable) {
@@ -71,20 +61,13 @@ TEST(Kernel, NumbersAreRoundedInTheirVariable) {
     EXPECT_THROW(formatInPlace(big, "0.0E+0"), RunTimeError) << "3.3E+4 is no Integer";
 }
 
-TEST(Kernel, VerticalTextStandsOneCharacterALine) {
-    Kernel q;
-    q.QGtxtY("", 12, 1, 2);
-    EXPECT_TRUE(q.page().ops.empty());
-    EXPECT_EQ(q.ForeColor, 0U);
-    q.QGtxtY("in", 0, 550, 2800);
-    const auto texts = opsOf<PageText>(q.page());
-    ASSERT_EQ(texts.size(), 2U);
-    EXPECT_EQ(texts[0].y, 4000);
-    EXPECT_FALSE(texts[1].y) << "below the first, at the font's line height";
-    for (const PageText& text : texts) {
-        EXPECT_EQ(text.x, 1750);
-        EXPECT_TRUE(text.endsLine);
-    }
+TEST(Kernel, ARectangleIsItsOutlineInOrder) {
+    Kernel q = sectionWindow();
+    q.PaintRCT(0, 100, 0, 18.75F, 13);
+    std::vector<float> corners;
+    for (const PageLine& line : opsOf<PageLine>(q.page()))
+        corners.insert(corners.end(), {std::round(line.x1), std::round(line.y1)});
+    EXPECT_THAT(corners, ElementsAre(2606, 4031, 6932, 4031, 6932, 6249, 2606, 6249));
 }
 
 TEST(Kernel, AxesHaveTicksAndLabelsAtTheirPlaces) {
@@ -102,15 +85,6 @@ TEST(Kernel, AxesHaveTicksAndLabelsAtTheirPlaces) {
     EXPECT_FLOAT_EQ(ticks[7].y1, 1200 + 2295 - 535.5F);
     EXPECT_EQ(textAt(q.page(), 1200 + 1405.95F + 865.2F - 200, 6450), " 20 ");
     EXPECT_EQ(textAt(q.page(), 1650, 1200 + 2295 - 100), " 18.75 ") << "from the window's lower value";
-}
-
-TEST(Kernel, ARectangleIsItsOutlineInOrder) {
-    Kernel q = sectionWindow();
-    q.PaintRCT(0, 100, 0, 18.75F, 13);
-    std::vector<float> corners;
-    for (const PageLine& line : opsOf<PageLine>(q.page()))
-        corners.insert(corners.end(), {std::round(line.x1), std::round(line.y1)});
-    EXPECT_THAT(corners, ElementsAre(2606, 4031, 6932, 4031, 6932, 6249, 2606, 6249));
 }
 
 }  // namespace

@@ -29,10 +29,11 @@ TEST_F(TextRoad, ChangesADeckAndReadsItsResults) {
     picture("frmEditor", "editor");
     choose("frmEditor", "mnuSave");
 
-    click("frmTOLMARK", "cmdTolstrat");
-    ASSERT_TRUE(appears(directory.path() + "BED1.BED"));
+    std::string results = solve("BED1");
+    std::erase(results, '\r');
     open("BED1.TXT", 1);
-    EXPECT_NE(shown().find("Modulus E of period 1, psi         500000 30000 8000"), std::string::npos);
+    EXPECT_NE(results.find("500000 30000 8000"), std::string::npos);
+    EXPECT_EQ(shown(), results);
     EXPECT_EQ(front("frmTOLMARK").control<ComboBox>("cmbFileName").textValue(), "BED1.DAT");
     choose("frmEditor", "mnuExit");
     EXPECT_EQ(screens.loaded("frmEditor"), nullptr);

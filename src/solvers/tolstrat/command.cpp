@@ -1,16 +1,12 @@
 #include "solvers/tolstrat/command.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <sstream>
 #include <thread>
 
 #include "layered/layered_check.h"
 #include "layered/layered_deck.h"
-#include "platform/files.h"
 #include "platform/list_file.h"
 #include "solvers/parallel.h"
 #include "solvers/tolstrat/csv.h"
@@ -22,46 +18,13 @@
 namespace {
 
 struct Options {
-    std::string path;  ///< of the deck, without ".DAT"
-    std::string csv, csvModuli, csvDamage;
+    std::string csvModuli, csvDamage;
     bool quiet = false;
     int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 };
 
-/// The deck and what is left beside it. Names that are there already keep their letter case.
-struct Files {
-    std::string deck, text, plot;
-
-    explicit Files(const std::string& path) {
-        deck = resolveName(withDatExtension(path));
-        const std::string stem = deck.substr(0, deck.size() - 4);
-        text = resolveName(stem + ".TXT");
-        plot = resolveName(stem + ".BED");
-    }
-};
-
-/// A deck that cannot be solved: one sentence for the user.
-struct BadDeck : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-/// A wrong count makes the reading fail further down; then the count is what the user must hear of.
-bool standsBefore(const DeckPlace& a, const DeckPlace& b) {
-    return std::pair(a.set, a.card) < std::pair(b.set, b.card);
-}
-
-/// Reads and checks the deck; afterwards every data set in the store can be solved.
-void readDeck(const std::string& path, Store& store) {
-    const DeckReadResult read = readLayeredDeck(path, store);
-    if (read.outcome == DeckReadResult::Outcome::NotADeck) {
-        throw BadDeck("this is not a layered deck: " + read.sentence());
-    }
-    const auto fault = checkLayeredDeck(store);
-    if (read.outcome == DeckReadResult::Outcome::Failed) {
-        throw BadDeck(fault && standsBefore(fault->where, read.where) ? fault->sentence : read.sentence());
-    }
-    if (fault) throw BadDeck(fault->sentence);
-}
+constexpr SolverProgram TOLSTRAT{"TOLSTRAT", "Stresses, strains and displacements of layered pavements.",
+                                 ".BED"};
 
 /// Periods of one load group that are solved together. Elastic periods share much of the work; the iterations
 /// of others are where the time goes, so that each is a job of its own.
@@ -154,67 +117,40 @@ void solveDataSet(const LayeredSet& set, int n, const Options& options, Output& 
 
 bool isStationaryViscous(const LayeredSet& set) { return set.MATL >= 3 && set.DUR.number() == 0; }
 
-void solveDeck(const Files& files, const Options& options) {
+void solveDeck(const ResultFiles& files, const SolverCommand& command, const Options& options) {
     Store store;
-    readDeck(files.deck, store);
+    const DeckReadResult read = readLayeredDeck(files.deck, store);
+    requireSound(read, checkLayeredDeck(store), "layered");
 
     bool timed = false;
     for (int n = 1; n <= store.NPROB; ++n) timed = timed || isStationaryViscous(store.layered[n]);
     Output out(timed);
-    writeHeading(out.text, std::filesystem::path(files.deck).filename().string(), store.NPROB);
+    writeHeading(out.text, files.deckName(), store.NPROB);
     for (int n = 1; n <= store.NPROB; ++n) solveDataSet(store.layered[n], n, options, out);
 
-    for (const auto& [path, table] : {std::pair(&options.csv, &out.responseText),
+    for (const auto& [path, table] : {std::pair(&command.csv(), &out.responseText),
                                       {&options.csvModuli, &out.moduliText},
                                       {&options.csvDamage, &out.damageText}})
         if (!path->empty()) writeFileAtomically(*path, table->str());
     writeFileAtomically(files.text, out.text.str());
     const bool plotted = static_cast<Integer>(out.problems.size()) == store.NPROB;
     if (plotted) writeBedFile(files.plot, out.problems);
-    if (options.quiet) return;
-    std::cout << "Results: " << files.text << '\n';
-    if (plotted) std::cout << "Plot: " << files.plot << '\n';
-    std::cout << std::flush;
-}
-
-/// Results of an earlier run must not pass for those of this one.
-void removeOldResults(const Files& files) {
-    std::error_code ignored;
-    std::filesystem::remove(files.plot, ignored);
-    std::filesystem::remove(files.text, ignored);
-}
-
-int fail(const Files& files, const std::string& sentence) {
-    std::cerr << "TOLSTRAT: " << files.deck << ": " << sentence << std::endl;
-    std::error_code ignored;
-    std::filesystem::remove(files.plot, ignored);
-    std::ofstream(files.text, std::ios::binary) << "TOLSTRAT " TOLMARK_VERSION "\r\nDeck: " << files.deck
-                                                << "\r\n\r\nNot solved: " << sentence << "\r\n";
-    return BAD_DECK;
+    command.announce(files, plotted);
 }
 
 }  // namespace
 
 int runTolstrat(int argc, char** argv) {
+    SolverCommand command(TOLSTRAT);
     Options options;
-    CLI::App app{"Stresses, strains and displacements of layered pavements.", "TOLSTRAT.EXE"};
-    app.add_option("deck", options.path, "path of the data file, without \".DAT\"")->required();
-    app.add_option("--csv", options.csv, "also write the results as a table to this file");
+    CLI::App& app = command.options();
     app.add_option("--csv-moduli", options.csvModuli,
                    "also write the moduli of nonlinear and viscoelastic layers, by iteration, to this file");
     app.add_option("--csv-damage", options.csvDamage, "also write the damage as a table to this file");
-    app.add_flag("--quiet", options.quiet, "no progress on the standard output");
     app.add_option("--threads", options.threads, "load groups and periods solved at the same time")
         ->check(CLI::Range(1, 64));
-    app.set_version_flag("--version", "TOLSTRAT " TOLMARK_VERSION);
-    CLI11_PARSE(app, argc, argv);
-
-    const Files files(options.path);
-    removeOldResults(files);
-    try {
-        solveDeck(files, options);
-    } catch (const std::exception& fault) {
-        return fail(files, fault.what());
-    }
-    return SOLVED;
+    return command.run(argc, argv, [&](const ResultFiles& files) {
+        options.quiet = command.quiet();
+        solveDeck(files, command, options);
+    });
 }

@@ -1,7 +1,7 @@
 // The command line of TOLSTRAT.
 #pragma once
 
-enum ExitStatus : int { SOLVED = 0, BAD_DECK = 1 };
+#include "solvers/solver_command.h"
 
 /// `TOLSTRAT.EXE PATH [--csv FILE] [--csv-moduli FILE] [--csv-damage FILE] [--quiet] [--threads N]`: solves
 /// the deck PATH.DAT and leaves PATH.TXT and PATH.BED beside it. On a fault a sentence goes to the error

@@ -1,25 +1,10 @@
 #include "solvers/tolstrat/csv.h"
 
-#include <cstdio>
-#include <initializer_list>
 #include <map>
 #include <string>
 
+#include "solvers/csv_cells.h"
 #include "solvers/tolstrat/loads.h"
-
-namespace {
-
-std::string number(double value) {
-    char text[32];
-    std::snprintf(text, sizeof text, "%.10g", value);
-    return text;
-}
-
-void cells(std::ostream& out, bool wanted, std::initializer_list<double> values) {
-    for (double value : values) out << ',' << (wanted ? number(value) : "");
-}
-
-}  // namespace
 
 CsvTable::CsvTable(std::ostream& out, bool timed, const char* columnsBehindGroup) : out_(out), timed_(timed) {
     out << "set,period,group," << (timed ? "time," : "") << columnsBehindGroup << '\n';
@@ -27,7 +12,7 @@ CsvTable::CsvTable(std::ostream& out, bool timed, const char* columnsBehindGroup
 
 std::ostream& CsvTable::row(int set, int period, int group, std::optional<double> time) {
     out_ << set << ',' << period << ',' << group;
-    if (timed_) out_ << ',' << (time ? number(*time) : "");
+    if (timed_) out_ << ',' << (time ? csvNumber(*time) : "");
     return out_;
 }
 
@@ -38,11 +23,11 @@ void writeResponseRows(CsvTable& table, const LayeredSet& set, int n, const Grou
         for (const auto& depth : group.depths) {
             const auto& [w, s, e, ps, pe, converged] = *response++;
             std::ostream& out = table.row(n, group.period, group.group, group.time) << ',' << point + 1;
-            cells(out, true, {group.points[point].x, group.points[point].y, depth.z, w});
-            cells(out, stresses, {s.xx, s.yy, s.zz, s.xy, s.xz, s.yz});
-            cells(out, strains, {e.xx, e.yy, e.zz, e.xy, e.xz, e.yz});
-            cells(out, stresses, {ps[0], ps[1], ps[2]});
-            cells(out, strains, {pe[0], pe[1], pe[2]});
+            csvCells(out, {group.points[point].x, group.points[point].y, depth.z, w});
+            csvCells(out, {s.xx, s.yy, s.zz, s.xy, s.xz, s.yz}, stresses);
+            csvCells(out, {e.xx, e.yy, e.zz, e.xy, e.xz, e.yz}, strains);
+            csvCells(out, {ps[0], ps[1], ps[2]}, stresses);
+            csvCells(out, {pe[0], pe[1], pe[2]}, strains);
             out << '\n';
         }
     }
@@ -58,7 +43,7 @@ void writeModuliRows(CsvTable& table, int n, const Viscoelasticity& creep, const
                 group.iterations.moduli[static_cast<std::size_t>(iteration)][k];
         for (const auto& [layer, modulus] : moduli)
             table.row(n, group.period, group.group, group.time)
-                << ',' << iteration << ',' << layer << ',' << number(modulus) << '\n';
+                << ',' << iteration << ',' << layer << ',' << csvNumber(modulus) << '\n';
     }
 }
 
@@ -69,7 +54,7 @@ void writeDamageRows(CsvTable& table, const LayeredSet& set, int n, const GroupD
             std::ostream& out = table.row(n, group.period, group.group, group.time)
                                 << ',' << which << ',' << j + 1 << ',' << locations[j].layer << ','
                                 << (locations[j].kind == DamageKind::Bottom ? "bottom" : "top");
-            cells(out, true, {damage.strain, damage.allowed, damage.ratio});
+            csvCells(out, {damage.strain, damage.allowed, damage.ratio});
             out << '\n';
         };
         axle(1, group.locations[j].primary);

@@ -1,6 +1,6 @@
 #include "solvers/tolstrat/damage_report.h"
 
-#include "solvers/tolstrat/report_lines.h"
+#include "solvers/report_lines.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {

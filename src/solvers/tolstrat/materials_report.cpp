@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "solvers/tolstrat/report_lines.h"
+#include "solvers/report_lines.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {

@@ -1,20 +1,14 @@
 #include "solvers/tolstrat/plot_file.h"
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include "layered/layered_cards.h"
+#include "solvers/plot_single.h"
 
 namespace {
 
 Single single(const Variant& value) { return ToSingle(value.number()); }
-
-/// The plot must be able to read a ratio, and to add two of them.
-Single finite(double value) {
-    constexpr double most = std::numeric_limits<Single>::max() / 2;
-    return static_cast<Single>(std::min(value, most));
-}
 
 void copyLayers(const LayeredSet& set, BedProblem& bed) {
     for (int i = 1; i <= bed.NL; ++i) {
@@ -108,14 +102,14 @@ void copyDamage(const LayeredSet& set, const std::vector<GroupDamage>& groups, c
         bed.TNLR[group.group][group.period] = ToSingle(group.repetitions);
         for (int j = 1; j <= bed.NZ; ++j) {
             const LocationDamage& d = group.locations[static_cast<std::size_t>(j - 1)];
-            bed.DRATIO[group.period][group.group][j] = finite(d.primary.ratio);
-            if (d.secondary) bed.ADDED[group.period][group.group][j] = finite(d.secondary->ratio);
+            bed.DRATIO[group.period][group.group][j] = plotSingle(d.primary.ratio);
+            if (d.secondary) bed.ADDED[group.period][group.group][j] = plotSingle(d.secondary->ratio);
         }
     }
     bed.KBT = static_cast<Integer>(sum.KBT);
     bed.KTC = static_cast<Integer>(sum.KTC);
-    bed.DRBT = finite(sum.DRBT);
-    bed.DRTC = finite(sum.DRTC);
+    bed.DRBT = plotSingle(sum.DRBT);
+    bed.DRTC = plotSingle(sum.DRTC);
     bed.DESLIFE = ToSingle(sum.life);
 }
 

@@ -6,11 +6,11 @@
 #include <string_view>
 
 #include "plots/bed_file.h"
+#include "solvers/report_lines.h"
 #include "solvers/tolstrat/damage_report.h"
 #include "solvers/tolstrat/loads.h"
 #include "solvers/tolstrat/materials_report.h"
 #include "solvers/tolstrat/plot_file.h"
-#include "solvers/tolstrat/report_lines.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {

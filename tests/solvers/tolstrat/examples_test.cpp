@@ -34,23 +34,6 @@ TEST_P(Examples, AreWrittenSolvedAndPlotted) {
     }
 }
 
-/// Column by column, to 1e-4 of the largest value in the column.
-void expectSame(const std::vector<Row>& english, const std::vector<Row>& si,
-                const std::map<std::string, double>& factors) {
-    ASSERT_EQ(english.size(), si.size());
-    for (const auto& [column, factor] : factors) {
-        double largest = 0;
-        for (const Row& row : si)
-            if (std::isfinite(number(row, column)))
-                largest = std::max(largest, std::abs(number(row, column)));
-        for (std::size_t i = 0; i < si.size(); ++i) {
-            if (std::isinf(number(si[i], column))) continue;
-            EXPECT_NEAR(number(si[i], column), factor * number(english[i], column), 1e-4 * largest)
-                << column << " in row " << i + 1;
-        }
-    }
-}
-
 TEST_P(Examples, AgreeInBothUnitSystems) {
     const Solved english = solveStore(*readExample(name(""))), si = solveStore(*readExample(name("SI")));
     const double cm = 2.54, kPa = 6.894757;

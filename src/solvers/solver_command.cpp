@@ -1,0 +1,76 @@
+#include "solvers/solver_command.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+#include "platform/files.h"
+#include "store/store.h"
+
+ResultFiles::ResultFiles(const std::string& path, const char* plotExtension) {
+    deck = resolveName(withDatExtension(path));
+    const std::string stem = deck.substr(0, deck.size() - 4);
+    text = resolveName(stem + ".TXT");
+    plot = resolveName(stem + plotExtension);
+}
+
+std::string ResultFiles::deckName() const { return std::filesystem::path(deck).filename().string(); }
+
+namespace {
+
+bool standsBefore(const DeckPlace& a, const DeckPlace& b) {
+    return std::pair(a.set, a.card) < std::pair(b.set, b.card);
+}
+
+void removeResults(const ResultFiles& files) {
+    std::error_code ignored;
+    std::filesystem::remove(files.plot, ignored);
+    std::filesystem::remove(files.text, ignored);
+}
+
+}  // namespace
+
+void requireSound(const DeckReadResult& read, const std::optional<DeckFault>& fault,
+                  const std::string& kind) {
+    if (read.outcome == DeckReadResult::Outcome::NotADeck)
+        throw BadDeck("this is not a " + kind + " deck: " + read.sentence());
+    if (read.outcome == DeckReadResult::Outcome::Failed)
+        throw BadDeck(fault && standsBefore(fault->where, read.where) ? fault->sentence : read.sentence());
+    if (fault) throw BadDeck(fault->sentence);
+}
+
+SolverCommand::SolverCommand(const SolverProgram& program)
+    : program_(program), app_(program.purpose, std::string(program.name) + ".EXE") {
+    app_.add_option("deck", path_, "path of the data file, without \".DAT\"")->required();
+    app_.add_option("--csv", csv_, "also write the results as a table to this file");
+    app_.add_flag("--quiet", quiet_, "no progress on the standard output");
+    app_.set_version_flag("--version", std::string(program.name) + " " TOLMARK_VERSION);
+}
+
+int SolverCommand::run(int argc, char** argv, const std::function<void(const ResultFiles&)>& solveDeck) {
+    CLI11_PARSE(app_, argc, argv);
+    const ResultFiles files(path_, program_.plotExtension);
+    removeResults(files);
+    try {
+        solveDeck(files);
+    } catch (const std::exception& fault) {
+        return fail(files, fault.what());
+    }
+    return SOLVED;
+}
+
+void SolverCommand::announce(const ResultFiles& files, bool plotted) const {
+    if (quiet_) return;
+    std::cout << "Results: " << files.text << '\n';
+    if (plotted) std::cout << "Plot: " << files.plot << '\n';
+    std::cout << std::flush;
+}
+
+int SolverCommand::fail(const ResultFiles& files, const std::string& sentence) const {
+    std::cerr << program_.name << ": " << files.deck << ": " << sentence << std::endl;
+    removeResults(files);
+    std::ofstream(files.text, std::ios::binary)
+        << program_.name << " " TOLMARK_VERSION "\r\nDeck: " << files.deck
+        << "\r\n\r\nNot solved: " << sentence << "\r\n";
+    return BAD_DECK;
+}

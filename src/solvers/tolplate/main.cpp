@@ -1,0 +1,3 @@
+#include "solvers/tolplate/command.h"
+
+int main(int argc, char** argv) { return runTolplate(TOLPLATE, argc, argv); }

@@ -1,0 +1,57 @@
+// The decks in examples/: as the program itself writes them, solved, plotted, and the same slabs in both
+// units.
+#include "plots/slab_plot.h"
+#include "solvers/tolplate/run_tolplate.h"
+
+namespace {
+
+std::unique_ptr<Store> readExample(const std::string& name) {
+    auto store = std::make_unique<Store>();
+    const auto read = readSlabDeck(TOLMARK_SOURCE_DIR "/examples/" + name, *store);
+    EXPECT_EQ(read.outcome, DeckReadResult::Outcome::Complete) << name << ": " << read.sentence();
+    return store;
+}
+
+class SlabExamples : public testing::TestWithParam<int> {
+  protected:
+    std::string name(const char* units) const { return "PAN" + std::to_string(GetParam()) + units + ".DAT"; }
+};
+
+TEST_P(SlabExamples, AreWrittenSolvedAndPlotted) {
+    for (const char* units : {"", "SI"}) {
+        const TemporaryDirectory folder;
+        const auto store = readExample(name(units));
+        saveSlabDeck(*store, folder.path() + "slab.DAT");
+        EXPECT_EQ(folder.read("slab.DAT"), example(name(units))) << name(units);
+        const Outcome done = run({folder.path() + "slab", "--quiet"});
+        ASSERT_EQ(done.status, SOLVED) << done.errors;
+        EXPECT_EQ(folder.read("slab.TXT").find("***"), std::string::npos) << name(units);
+
+        SlabPlot plot(folder.path() + "slab.PAN");
+        int pages = 0, wanted = 0;
+        while (plot.next()) ++pages;
+        for (int n = 1; n <= store->SlabNPROB.number(); ++n)
+            wanted += store->slab[n].NPY * store->slab[n].NLG;
+        EXPECT_EQ(pages, wanted);
+    }
+}
+
+TEST_P(SlabExamples, AgreeInBothUnitSystems) {
+    const SolvedSlabs english = solveSlabs(*readExample(name(""))), si = solveSlabs(*readExample(name("SI")));
+    const double cm = 2.54, kPa = 6.894757, kN = 0.004448222;
+    expectSame(english.nodes, si.nodes,
+               {{"x", cm}, {"w", cm}, {"rx", 1}, {"reaction", kN}, {"mx", kN}, {"sx", kPa}, {"s1", kPa}});
+    expectSame(english.joints, si.joints, {{"shear", kN}, {"moment", kN * cm}, {"bars", 1}});
+    for (std::size_t i = 0; i < si.nodes.size(); ++i)
+        EXPECT_EQ(si.nodes[i].at("contact"), english.nodes[i].at("contact")) << "row " << i + 1;
+    ASSERT_EQ(english.plots.size(), si.plots.size());
+    for (std::size_t n = 0; n < si.plots.size(); ++n) {
+        const PanProblem &a = english.plots[n].problem, &b = si.plots[n].problem;
+        EXPECT_NEAR(b.DESLIFE, a.DESLIFE, 1e-3 * a.DESLIFE);
+        EXPECT_NEAR(b.SUBMOD, 271.4471 * a.SUBMOD, 1e-4 * b.SUBMOD) << "kN/m^3 for pci";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, SlabExamples, testing::Range(1, 7));
+
+}  // namespace
