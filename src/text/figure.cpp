@@ -3,6 +3,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "platform/numbers.h"
+
 namespace {
 
 constexpr float twipsPerPoint = 20;
@@ -28,6 +30,11 @@ float widthOf(const std::string& text, float size) {
         if (!continuesLetter) ems += widthOf(c);
     }
     return ems * size * twipsPerPoint;
+}
+
+std::string lengthText(double inches) {
+    constexpr double cmPerInch = 2.54;
+    return numberText(inches) + " in. (" + numberText(ToDouble(Format(inches * cmPerInch, "0.##"))) + " cm)";
 }
 
 void Figure::line(float x1, float y1, float x2, float y2, Colour colour, int width) {

@@ -45,3 +45,6 @@ class Figure {
 
 /// Width in twips of a text in Liberation Sans, within a few per cent.
 float widthOf(const std::string& text, float size);
+
+/// A length in both systems of units.
+std::string lengthText(double inches);

@@ -2,14 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
-#include <memory>
 
 #include "layered/layered_deck.h"
-#include "platform/run_time_error.h"
-#include "store/store.h"
+#include "text/example_deck.h"
 #include "text/figure.h"
-#include "text/pages.h"
 #include "text/sheets.h"
 
 namespace {
@@ -17,21 +13,6 @@ namespace {
 // The section on the left, the plans of the load groups on the right.
 constexpr float sectionLeft = 300, sectionRight = 3500, sectionTop = 1150, sectionMargin = 500;
 constexpr float plansLeft = 5300, plansRight = 9400, plansTop = 250;
-constexpr double cmPerInch = 2.54;
-
-std::unique_ptr<Store> readExample(const std::string& deck) {
-    auto store = std::make_unique<Store>();
-    ListReader in = ListReader::fromText(textPage(deck, "\r\n"));
-    const DeckReadResult read = readLayeredDeck(in, *store);
-    if (read.outcome != DeckReadResult::Outcome::Complete)
-        throw RunTimeError(Fault::InvalidCall, deck + ", " + read.sentence());
-    return store;
-}
-
-/// A length in both systems of units.
-std::string lengthText(double inches) {
-    return numberText(inches) + " in. (" + numberText(ToDouble(Format(inches * cmPerInch, "0.##"))) + " cm)";
-}
 
 int whole(const Variant& value) { return static_cast<int>(value.number()); }
 
@@ -192,7 +173,8 @@ void drawPlans(Figure& figure, const LayeredSet& set, float height) {
 }  // namespace
 
 Page layeredFigure(const LayeredFigure& what) {
-    const auto store = readExample(what.deck);
+    const auto store =
+        readExample(what.deck, [](ListReader& in, Store& into) { return readLayeredDeck(in, into); });
     const LayeredSet& set = store->layered[1];
     Figure figure(sheetWidth, what.height);
     drawTires(figure, set);

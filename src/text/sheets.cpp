@@ -2,6 +2,7 @@
 
 #include "text/layered_figure.h"
 #include "text/mohr_figure.h"
+#include "text/slab_figure.h"
 
 namespace {
 
@@ -15,6 +16,13 @@ Sheet layeredSheet(int number, int printHeight, std::vector<LayeredFigure::Layer
             "mnuPrintText", [figure] { return layeredFigure(figure); }};
 }
 
+Sheet slabSheet(int number, int printHeight) {
+    const std::string n = std::to_string(number);
+    const SlabFigure figure{"PAN" + n, static_cast<float>(printHeight)};
+    return {"frmPan" + n,   "Example " + n + " for TOLPLATE",       "sheet_pan" + n, printHeight,
+            "mnuPrintText", [figure] { return slabFigure(figure); }};
+}
+
 }  // namespace
 
 const std::vector<Sheet>& sheets() {
@@ -25,6 +33,12 @@ const std::vector<Sheet>& sheets() {
         layeredSheet(4, 3580, {asphalt, base, subgrade}),
         layeredSheet(5, 4800, {asphalt, subgrade}),
         layeredSheet(6, 5220, {asphalt, base, clay}),
+        slabSheet(1, 4100),
+        slabSheet(2, 3950),
+        slabSheet(3, 4400),
+        slabSheet(4, 4450),
+        slabSheet(5, 4400),
+        slabSheet(6, 4900),
         {"frmMohr", "Failure Envelope of Granular Materials", "sheet_mohr", 3885, "PrintText", mohrFigure},
     };
     return all;

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "support/layered_screens.h"
+#include "support/pictures.h"
 #include "support/window_checks.h"
 #include "text/frm_help1.h"
 #include "text/manual.h"
@@ -50,6 +51,7 @@ TEST_F(Texts, EverySheetShowsAndPrintsItsFigureAndItsText) {
         const auto& picture = form.control<PagePicture>("Image1");
         EXPECT_GT(text.height(), 6 * text.fontMetrics().lineSpacing()) << sheet.form;
         EXPECT_GT(picture.height(), form.height() / 3) << sheet.form;
+        savePicture(form, sheet.form);
 
         const int before = form.height();
         choose(form, "mnuPrintForm");

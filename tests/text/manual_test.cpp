@@ -9,6 +9,7 @@
 
 #include "layered/layered_cards.h"
 #include "platform/print_text_box.h"
+#include "slab/slab_cards.h"
 #include "support/recording_printer.h"
 #include "text/figure.h"
 #include "text/pages.h"
@@ -48,7 +49,7 @@ TEST(Manual, IsPlainTextThatFitsItsBoxAndItsPaper) {
 
 TEST(Manual, ShowsDecksInLinesThatFit) {
     for (const auto& [name, text] : embeddedPages()) {
-        if (!name.starts_with("BED")) continue;
+        if (!name.starts_with("BED") && !name.starts_with("PAN")) continue;
         std::string shown;
         for (const std::string& line : linesOf(textPage(name, "\n"))) {
             EXPECT_LE(line.size(), 75U) << name << ": " << line;
@@ -123,8 +124,9 @@ std::vector<Described> cardsOf(const CardTable<Set>& table) {
     return cards;
 }
 
-TEST(Manual, HasEveryLineOfTheLayeredDataFileInItsOrder) {
+TEST(Manual, HasEveryLineOfTheDataFilesInItsOrder) {
     EXPECT_THAT(cardsOnPage("manual_layered_file"), ::testing::ElementsAreArray(cardsOf(layeredCards())));
+    EXPECT_THAT(cardsOnPage("manual_slab_file"), ::testing::ElementsAreArray(cardsOf(slabCards())));
 }
 
 /// Fields that the page describes: in capitals at the left margin, with text behind or above them.
@@ -139,15 +141,22 @@ std::multiset<std::string> fieldsOnPage(const std::string& page) {
     return fields;
 }
 
-TEST(Manual, DescribesEveryFieldOfTheLayeredDeck) {
-    const auto described = fieldsOnPage("manual_layered_input");
-    std::multiset<std::string> wanted;
-    for (const Described& card : cardsOf(layeredCards()))
-        for (const std::string& field : card.fields) wanted.insert(field);
-    for (const std::string& field : wanted) EXPECT_GE(described.count(field), 1U) << field;
-    for (const std::string& field : described) EXPECT_GE(wanted.count(field), 1U) << field << " is no field";
+/// The page describes each field of the cards, and nothing else in that manner.
+void expectEveryField(const std::string& page, const std::vector<Described>& cards) {
+    const auto described = fieldsOnPage(page);
+    std::set<std::string> wanted;
+    for (const Described& card : cards)
+        for (const std::string& field : card.fields) wanted.insert(field.substr(0, field.find('(')));
+    for (const std::string& field : wanted) EXPECT_GE(described.count(field), 1U) << page << ": " << field;
+    for (const std::string& field : described)
+        EXPECT_TRUE(wanted.contains(field)) << page << ": " << field << " is no field";
+}
+
+TEST(Manual, DescribesEveryFieldOfTheDecks) {
+    expectEveryField("manual_layered_input", cardsOf(layeredCards()));
+    expectEveryField("manual_slab_input", cardsOf(slabCards()));
     for (const char* twice : {"K2", "K1"})
-        EXPECT_EQ(described.count(twice), 2U) << twice << " of two materials";
+        EXPECT_EQ(fieldsOnPage("manual_layered_input").count(twice), 2U) << twice << " of two materials";
 }
 
 TEST(Manual, SectionsAndSheetsHaveTheirTitles) {
@@ -161,8 +170,15 @@ TEST(Manual, SectionsAndSheetsHaveTheirTitles) {
         {"frmBed4", {"Example 4: Viscoelastic Three-layer System with 4 Periods and 1 Load Group", 3580}},
         {"frmBed5", {"Example 5: Linear Elsatic Two-layer System with 1 Period and 3 Load Groups", 4800}},
         {"frmBed6", {"Example 6: N. Elastic and Viscoelastic with 2 Periods and 2 Load Groups", 5220}},
+        {"frmPan1", {"Example 1: Curling of Slab with Full Contact: (a) Liquid Foundation and (b)", 4100}},
+        {"frmPan2", {"Example 2:  Curling of Slab with Partial Contact: (a) Liquid Foundation", 3950}},
+        {"frmPan3", {"Example 3:  Two Slabs on Solid Foundation with Full Contact", 4400}},
+        {"frmPan4", {"Example 4:  Damage Analysis with Two Periods and Three Load Groups", 4450}},
+        {"frmPan5", {"Example 5: Four Slabs on Layer Foundation with Partial Contact", 4400}},
+        {"frmPan6", {"Example 6: Raft on Solid Foundation with Retaining Walls on three sides", 4900}},
         {"frmMohr", {"Failure Envelope of Granular Materials", 3885}},
     };
+    EXPECT_EQ(sheets().size(), wanted.size());
     for (const Sheet& sheet : sheets()) {
         ASSERT_TRUE(wanted.contains(sheet.form)) << sheet.form;
         EXPECT_EQ(linesOf(embeddedPages().at(sheet.page)).front(), wanted.at(sheet.form).first);
