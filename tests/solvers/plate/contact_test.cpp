@@ -1,22 +1,12 @@
 // Slabs that lift: gaps, curling, weight, continuation.
 #include <random>
 
-#include "problems.h"
+#include "solved.h"
 
 namespace plate {
 namespace {
 
 using enum FoundationKind;
-
-Problem curled(FoundationKind kind) {
-    Problem p = oneSlab(lines(180, 9), lines(144, 8));
-    p.foundation.kind = kind;
-    p.NWT = true;
-    p.TEMP = 30;
-    p.CT = 5e-6;
-    p.NCYCLE = 15;
-    return p;
-}
 
 /// Every node is in contact with pressure, or open without a force.
 void expectConsistent(const Case& c) {

@@ -1,24 +1,11 @@
 // Joints between slabs.
-#include "problems.h"
+#include "solved.h"
 #include "solvers/plate/dowel.h"
 
 namespace plate {
 namespace {
 
 using enum FoundationKind;
-
-/// Two slabs side by side with a joint between them, loaded on the left one beside it.
-Problem twoSlabs(const Joint& joint) {
-    Problem p = oneSlab(lines(60, 5), lines(96, 6));
-    p.slabs.push_back(p.slabs[0]);
-    p.slabs[0].JONO[1] = 1;
-    p.slabs[1].JONO[0] = 1;
-    p.joints = {joint};
-    p.YMSB = 29e6;
-    p.PRSB = 0.3;
-    p.groups = {{{1, 40, 60, 0, 20, 80}}};
-    return p;
-}
 
 Problem stackedSlabs(const Joint& joint) {
     Problem p = twoSlabs(joint);
@@ -103,15 +90,8 @@ TEST(PlateJoints, PlayIsTakenUpFirst) {
 // all foundations, through joints in both directions.
 TEST(PlateJoints, Reciprocity) {
     for (FoundationKind kind : {Liquid, Solid, Layer}) {
-        Problem p = oneSlab({0, 30, 50}, lines(96, 4));
-        p.slabs = {{{0, 30, 50}, {0, 20, 80}, {0, 1, 0, 3}},
-                   {{0, 30, 50}, {0, 40}, {0, 2, 3, 0}},
-                   {{0, 60, 70, 90}, {0, 20, 80}, {1, 0, 0, 4}},
-                   {{0, 60, 70, 90}, {0, 40}, {2, 0, 4, 0}}};
-        p.joints.assign(4, {500, 20000, 1e6, 1, 12, 0.1, 0, {}});
-        p.YMSB = 29e6;
+        Problem p = unequalSlabs();
         p.foundation.kind = kind;
-        p.foundation.TH = {6}, p.foundation.E = {3e4, 8e3}, p.foundation.PRBF = {0.3, 0.45};
         const int A = 3, B = nodeAt(p, 2, 0, 3);
         p.FF = {{A, 1000}};
         const double there = at(solved(p), B).w;

@@ -1,4 +1,6 @@
 // The pieces on their own: element, section, dowel, potential of rectangles, fatigue.
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <numbers>
 

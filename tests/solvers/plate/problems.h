@@ -1,8 +1,7 @@
 // Small slab problems and the numbers read from them.
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <algorithm>
 #include <cmath>
 
 #include "solvers/plate/plate.h"
@@ -57,17 +56,64 @@ inline std::vector<int> rowAt(const Problem& p, int j) {
     return nodes;
 }
 
-/// Solves one that must go well: no fault, forces and moments in balance, residual small.
-inline Solution solved(const Problem& p) {
-    Solution s = solve(p);
-    EXPECT_FALSE(s.fault) << s.fault->text;
-    for (const Case& c : s.cases) {
-        EXPECT_LE(c.equilibrium.forceError, 1e-9);
-        EXPECT_LE(c.equilibrium.momentError, 1e-9);
-        EXPECT_LE(c.residual, 1e-6);
-        EXPECT_TRUE(c.contact.settled);
-    }
-    return s;
+/// Grid lines on two axes of symmetry, which x and y begin at: the slab is a quarter of the whole.
+inline Problem quarterSlab(std::vector<double> x, std::vector<double> y) {
+    Problem p = oneSlab(std::move(x), std::move(y));
+    p.NODSX = rowAt(p, 0);
+    p.NODSY = columnAt(p, 0);
+    return p;
+}
+
+inline std::vector<int> joined(std::vector<int> a, const std::vector<int>& b) {
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
+
+/// 8 in. of the first modulus on a half-space of the second.
+inline Foundation layered(double E1, double E2) {
+    Foundation f;
+    f.kind = FoundationKind::Layer;
+    f.TH = {8};
+    f.E = {E1, E2};
+    f.PRBF = {0.4, 0.4};
+    return f;
+}
+
+/// Two slabs side by side with a joint between them, loaded on the left one beside it.
+inline Problem twoSlabs(const Joint& joint) {
+    Problem p = oneSlab(lines(60, 5), lines(96, 6));
+    p.slabs.push_back(p.slabs[0]);
+    p.slabs[0].JONO[1] = 1;
+    p.slabs[1].JONO[0] = 1;
+    p.joints = {joint};
+    p.YMSB = 29e6;
+    p.PRSB = 0.3;
+    p.groups = {{{1, 40, 60, 0, 20, 80}}};
+    return p;
+}
+
+/// Four slabs of unequal spans, joints in both directions.
+inline Problem unequalSlabs() {
+    Problem p = oneSlab({0, 30, 50}, lines(96, 4));
+    p.slabs = {{{0, 30, 50}, {0, 20, 80}, {0, 1, 0, 3}},
+               {{0, 30, 50}, {0, 40}, {0, 2, 3, 0}},
+               {{0, 60, 70, 90}, {0, 20, 80}, {1, 0, 0, 4}},
+               {{0, 60, 70, 90}, {0, 40}, {2, 0, 4, 0}}};
+    p.joints.assign(4, {500, 20000, 1e6, 1, 12, 0.1, 0, {}});
+    p.YMSB = 29e6;
+    p.foundation.TH = {6}, p.foundation.E = {3e4, 8e3}, p.foundation.PRBF = {0.3, 0.45};
+    return p;
+}
+
+/// A slab with weight that a warm bottom lifts at its corners, in contact where it presses.
+inline Problem curled(FoundationKind kind) {
+    Problem p = oneSlab(lines(180, 9), lines(144, 8));
+    p.foundation.kind = kind;
+    p.NWT = true;
+    p.TEMP = 30;
+    p.CT = 5e-6;
+    p.NCYCLE = 15;
+    return p;
 }
 
 inline const NodeResult& at(const Solution& s, int node, std::size_t which = 0) {

@@ -1,5 +1,6 @@
 // Slabs on solid and layered foundations.
 #include "closed_forms.h"
+#include "solved.h"
 
 namespace plate {
 namespace {
@@ -10,15 +11,6 @@ Problem onSolid(std::vector<double> x, std::vector<double> y) {
     Problem p = oneSlab(std::move(x), std::move(y));
     p.foundation.kind = Solid;
     return p;
-}
-
-Foundation layered(double E1, double E2) {
-    Foundation f;
-    f.kind = Layer;
-    f.TH = {8};
-    f.E = {E1, E2};
-    f.PRBF = {0.4, 0.4};
-    return f;
 }
 
 /// -1..1 with lines towards both ends.

@@ -1,0 +1,18 @@
+// The sections of docs/verification.md and the printer of their tables.
+#pragma once
+
+#include <string>
+
+namespace verification {
+
+/// A section with the head of its table.
+void head(const char* title, const char* text);
+
+/// One case. The error is relative to `scale`; `digits` is the number format of both values.
+void row(const std::string& name, const char* source, double expected, double computed, double scale,
+         const char* digits = "%.7g");
+
+void layered();  ///< the layered solver's sections
+void slabs();    ///< the slab solver's sections
+
+}  // namespace verification
