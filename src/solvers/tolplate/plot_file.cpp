@@ -73,14 +73,15 @@ void addFoundation(PanProblem& pan, const SlabSet& set) {
     }
 }
 
-/// The two numbers of a node and layer that the table holds.
+/// The two numbers of a node and layer that the table holds. Moments have the sign that the contour page
+/// states for all it draws: minus for tension at the bottom.
 struct Pair {
     double x, y;
 };
 
 Pair tableValue(const SlabSet& set, const plate::LayerResult& l) {
     const double unit = slabUnits(set.NUNIT).perStress;
-    return tableKind(set) == PanProblem::MomentTable ? Pair{l.mx, l.my} : Pair{l.sx / unit, l.sy / unit};
+    return tableKind(set) == PanProblem::MomentTable ? Pair{-l.mx, -l.my} : Pair{l.sx / unit, l.sy / unit};
 }
 
 const plate::LayerResult& layerAt(const plate::Case& c, int node, int k) {
