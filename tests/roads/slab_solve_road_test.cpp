@@ -37,12 +37,20 @@ constexpr const char* deck =
 
 class SlabSolveRoad : public Road {
   protected:
-    SlabSolveRoad() {
-        directory.write("joint.DAT", deck);
+    SlabSolveRoad() { directory.write("joint.DAT", deck); }
+
+    /// Names the deck on the main screen, opens it in the slab input and saves it as it is.
+    void openAndSave() {
         front("frmTOLMARK").control<ComboBox>("cmbDataPath").setTextValue(directory.path());
         front("frmTOLMARK").control<ComboBox>("cmbFileName").setTextValue("joint.DAT");
         click("frmTOLMARK", "cmdPanform");
-        click("frmPANFORM", "cmdExit");  // takes over the directory
+        dialogs.expectFile(FileAnswer{directory.path() + "joint.DAT", 1});
+        choose("frmPANFORM", "mnuOpen");
+        dialogs.expectBox("You have not save the file.  Do you want to save the file?", Buttons::YesNoCancel,
+                          Answer::Yes);
+        dialogs.expectBox("File with a filename of " + directory.path() + "joint.DAT has been saved");
+        click("frmPANFORM", "cmdExit");
+        EXPECT_TRUE(dialogs.finished());
     }
 
     /// The plot file that one of the solvers writes, and in `text` its results.
@@ -78,6 +86,7 @@ void expectLines(const std::string& text, const std::vector<const char*>& expect
 }
 
 TEST_F(SlabSolveRoad, ASavedDeckIsSolvedPlottedAndContoured) {
+    openAndSave();
     std::string text, giantText;
     const std::string results = solvedBy("cmdTolplate", text);
     EXPECT_EQ(text.substr(0, 8), "TOLPLATE");
