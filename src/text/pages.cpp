@@ -8,9 +8,10 @@
 namespace {
 
 constexpr std::size_t widest = 75;  // columns
+const std::string cut = " ...";
 
 /// A line as it fits a page. Only decks have longer ones: values may go on in the next line, and the label
-/// stays with the last of them.
+/// stays with the last of them. Labels may not go on, but may be any text: one that is too long is cut.
 std::string fitted(const std::string& line, const std::string& lineEnd) {
     const std::size_t label = line.find('(');
     if (label == std::string::npos) return line + lineEnd;
@@ -23,7 +24,9 @@ std::string fitted(const std::string& line, const std::string& lineEnd) {
         text += line.substr(start, line.find_last_not_of(' ', end) + 1 - start) + lineEnd;
         start = end;
     }
-    return text + line.substr(start) + lineEnd;
+    std::string rest = line.substr(start);
+    if (rest.size() > widest) rest = rest.substr(0, rest.rfind(' ', widest - cut.size())) + cut;
+    return text + rest + lineEnd;
 }
 
 }  // namespace

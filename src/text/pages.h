@@ -9,6 +9,6 @@
 const std::map<std::string, std::string>& embeddedPages();
 
 /// The page of that name, every line ended by `lineEnd`; lines of decks that are too long for a page go on in
-/// the next one, as a deck may. A line "@include other" is replaced by that page.
-/// A name without a page is InvalidCall: the texts are part of the program.
+/// the next one, as a deck may; the end of a label that is too long is left out. A line "@include other" is
+/// replaced by that page. A name without a page is InvalidCall: the texts are part of the program.
 std::string textPage(const std::string& name, const std::string& lineEnd);

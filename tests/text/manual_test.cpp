@@ -55,9 +55,16 @@ TEST(Manual, ShowsDecksInLinesThatFit) {
             EXPECT_LE(line.size(), 75U) << name << ": " << line;
             shown += line + " ";
         }
-        std::istringstream whole(text), pieces(shown);
-        for (std::string word, piece; whole >> word;) {
-            EXPECT_TRUE(pieces >> piece && piece == word) << name << ": " << word << " became " << piece;
+        std::istringstream pieces(shown);
+        for (const std::string& line : linesOf(text)) {
+            std::istringstream whole(line);
+            bool inLabel = false;
+            for (std::string word, piece; whole >> word;) {
+                EXPECT_TRUE(pieces >> piece) << name << ": " << word;
+                if (inLabel && piece == "...") break;  // a label may be cut
+                EXPECT_EQ(piece, word) << name;
+                inLabel = inLabel || word.starts_with('(');
+            }
         }
     }
 }
