@@ -194,8 +194,9 @@ void drawLegend(Figure& figure, const SlabSet& set, float y) {
         for (int i = 1; i <= set.NCNF; ++i) most = std::max(most, force(i));
         figure.circle(x + 100, y + 110, 90, ink::red, ink::red);
         figure.text(text, y, "columns, FF = " + numberText(most) + " lb");
-        figure.circle(x + 2700, y + 110, 35, ink::red, ink::red);
-        figure.text(x + 2800, y, "walls, " + rangeText(force, set.NCNF, most) + " lb");
+        y += legendRow;
+        figure.circle(x + 100, y + 110, 35, ink::red, ink::red);
+        figure.text(text, y, "walls, FF = " + rangeText(force, set.NCNF, most) + " lb");
         y += legendRow;
         figure.line(x + 30, y + 110, x + 170, y + 110, ink::blue, 2);
         const auto moment = [&](int i) { return set.MOMENTX[i].FMX; };
