@@ -23,7 +23,8 @@ class Editor : public LayeredScreens {
     Editor() {
         screens.add("frmEditor", [this] { return std::make_unique<frmEditor>(program); });
         screens.add("frmHelp1", [this] { return std::make_unique<frmHelp1>(program); });
-        screens.add("frmBed1", [] { return std::make_unique<BlankForm>("frmBed1"); });
+        for (const char* sheet : {"frmBed1", "frmPan6"})
+            screens.add(sheet, [sheet] { return std::make_unique<BlankForm>(sheet); });
     }
     Form& start(const std::string& FileName = "") {
         store.FileName = FileName;
