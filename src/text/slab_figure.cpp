@@ -87,10 +87,17 @@ void drawSlabSection(Figure& figure, const SlabSet& set, const Arrangement& wher
     for (int s = 1; s <= set.NSLAB; ++s)
         if (const float x = sectionX(where, where.left(s)); where.base(s) == 0 && where.left(s) > 0)
             figure.line(x, sectionTop, x, bottom, ink::blue, 3);
-    const float textLeft = sectionLeft + 120;
-    figure.text(textLeft, sectionTop + 60, "Concrete", 9, ink::black, true);
-    figure.text(textLeft, sectionTop + 290,
-                "YM = " + numberText(set.LAYER[1].YM) + " psi,  PR = " + numberText(set.LAYER[1].PR));
+    // A joint divides the text, too.
+    const std::string YM = "YM = " + numberText(set.LAYER[1].YM) + " psi", PR = numberText(set.LAYER[1].PR);
+    const float left = sectionLeft + 120, right = (sectionLeft + sectionRight) / 2 + 60,
+                row = sectionTop + 290;
+    figure.text(left, sectionTop + 60, "Concrete", 9, ink::black, true);
+    if (set.NSLAB == 1) {
+        figure.text(left, row, YM + ",  PR = " + PR);
+    } else {
+        figure.text(left, row, "PR = " + PR);
+        figure.text(right, row, YM, 8);
+    }
     figure.dimensionDown(sectionRight + 100, sectionTop, bottom, lengthText(set.LAYER[1].T));
 }
 
@@ -212,8 +219,7 @@ void drawPlans(Figure& figure, const SlabSet& set, const Arrangement& where, flo
     for (int g = 1; g <= groups; ++g) {
         const float left = plansLeft + each * static_cast<float>(g - 1);
         const bool last = g == groups;
-        figure.text(left, plansTop, groups == 1 ? "Plan" : "Load group " + std::to_string(g), 9, ink::black,
-                    true);
+        figure.text(left, plansTop, groups == 1 ? "Plan" : "Group " + std::to_string(g), 9, ink::black, true);
         const float right = last ? plansRight : left + each - between;
         drawSlabPlan(figure, set, where, {left, plansTop + 160, right, bottom, g, last});
     }
