@@ -147,7 +147,7 @@ TEST_F(Editor, FillsALargeFileWhileTheUserReads) {
     open("large.txt");
     click("mnuSave");
     EXPECT_EQ(directory.read("large.txt"), bytes) << "saved before all of it was filled in";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !box().isReadOnly(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !box().isReadOnly(); }, 60000));
     EXPECT_EQ(shown(), bytes);
     click("mnuExit");
     EXPECT_FALSE(isOpen()) << "nothing changed: no question";
