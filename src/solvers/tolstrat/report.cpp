@@ -57,30 +57,23 @@ struct Block {
     const char* title;
     std::array<const char*, 9> heads;
     std::array<double, 9> (*values)(const Response&);
-    int columns;
     bool stress;
 };
+
+std::array<double, 9> components(const layered_theory::Tensor& t, const std::array<double, 3>& principal) {
+    return {t.xx, t.yy, t.zz, t.xy, t.xz, t.yz, principal[0], principal[1], principal[2]};
+}
 
 constexpr std::array<Block, 2> BLOCKS = {
     Block{5,
           "Stresses",
           {"sxx", "syy", "szz", "sxy", "sxz", "syz", "s1", "s2", "s3"},
-          [](const Response& r) -> std::array<double, 9> {
-              const auto& t = r.stress;
-              const auto& p = r.principalStress;
-              return {t.xx, t.yy, t.zz, t.xy, t.xz, t.yz, p[0], p[1], p[2]};
-          },
-          9,
+          [](const Response& r) { return components(r.stress, r.principalStress); },
           true},
     Block{9,
           "Strains",
           {"exx", "eyy", "ezz", "exy", "exz", "eyz", "e1", "e2", "e3"},
-          [](const Response& r) -> std::array<double, 9> {
-              const auto& t = r.strain;
-              const auto& p = r.principalStrain;
-              return {t.xx, t.yy, t.zz, t.xy, t.xz, t.yz, p[0], p[1], p[2]};
-          },
-          9,
+          [](const Response& r) { return components(r.strain, r.principalStrain); },
           false}};
 
 std::string placeText(const GroupResult& group, std::size_t point, std::size_t depth) {
