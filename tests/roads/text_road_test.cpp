@@ -1,6 +1,10 @@
 // A deck changed, solved and read as text, without leaving the program.
+#include <filesystem>
+
 #include "roads/road.h"
+#include "text/frm_sheet.h"
 #include "text/pages.h"
+#include "text/sheets.h"
 
 namespace {
 
@@ -37,6 +41,23 @@ TEST_F(TextRoad, ChangesADeckAndReadsItsResults) {
     EXPECT_EQ(front("frmTOLMARK").control<ComboBox>("cmbFileName").textValue(), "BED1.DAT");
     choose("frmEditor", "mnuExit");
     EXPECT_EQ(screens.loaded("frmEditor"), nullptr);
+}
+
+/// With TOLMARK_PICTURES set, the first job of each is left there for a look.
+TEST_F(TextRoad, EverySheetGoesToPaper) {
+    const char* const pictures = std::getenv("TOLMARK_PICTURES");
+    for (const Sheet& sheet : sheets()) {
+        showSheet(program, sheet.form);
+        for (const std::string& entry : {std::string("mnuPrintForm"), sheet.mnuPrintText}) {
+            notes.clear();
+            choose(sheet.form, entry);
+            ASSERT_FALSE(notes.empty()) << sheet.form << " " << entry;
+            const std::filesystem::path job = notes[0].substr(notes[0].find('/'));
+            EXPECT_GT(std::filesystem::file_size(job), 1000U) << notes[0];
+            if (pictures) std::filesystem::copy(job, pictures + ("/" + sheet.form + entry + ".pdf"));
+        }
+        choose(sheet.form, "mnuExit");
+    }
 }
 
 TEST_F(TextRoad, TheManualOpensFromEverywhere) {

@@ -30,6 +30,7 @@ TEST_F(Texts, TheManualShowsOneSectionAtATimeAndPrintsIt) {
         EXPECT_EQ(help.control<Label>("Label1").caption(), section.title);
         EXPECT_EQ(help.control<HelpBox>("txtHelp1").textValue(), textPage(section.page, "\r\n"));
         EXPECT_EQ(store.HelpText, textPage(section.page, "\r\n"));
+        savePicture(help, section.page);
         choose(help, "mnuPrint");
         EXPECT_FALSE(printer.jobs.empty());
         EXPECT_EQ(printer.jobs.back().size, 10);
