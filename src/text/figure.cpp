@@ -1,5 +1,6 @@
 #include "text/figure.h"
 
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -32,9 +33,22 @@ float widthOf(const std::string& text, float size) {
     return ems * size * twipsPerPoint;
 }
 
-std::string lengthText(double inches) {
-    constexpr double cmPerInch = 2.54;
-    return numberText(inches) + " in. (" + numberText(ToDouble(Format(inches * cmPerInch, "0.##"))) + " cm)";
+std::string inBothUnits(Quantity quantity, double english) {
+    struct Units {
+        const char *english, *SI;
+        double factor;
+        const char* pattern;
+    };
+    static constexpr std::array<Units, 7> units = {{{"in.", "cm", 2.54, "0.##"},
+                                                    {"psi", "kPa", 6.894757, "0"},
+                                                    {"psi", "MPa", 6.894757e-3, "0"},
+                                                    {"pci", "MN/m^3", 0.2714471, "0.#"},
+                                                    {"pcf", "kN/m^3", 0.1570875, "0.#"},
+                                                    {"F", "C", 5.0 / 9, "0.#"},
+                                                    {"lb", "kN", 4.448222e-3, "0.#"}}};
+    const Units& unit = units.at(static_cast<std::size_t>(quantity));
+    return numberText(english) + " " + unit.english + " (" +
+           numberText(ToDouble(Format(english * unit.factor, unit.pattern))) + " " + unit.SI + ")";
 }
 
 void Figure::line(float x1, float y1, float x2, float y2, Colour colour, int width) {
@@ -90,6 +104,12 @@ void Figure::centred(float x, float y, const std::string& text, float size, Colo
     this->text(x - widthOf(text, size) / 2, y, text, size, colour, bold);
 }
 
+void Figure::named(float x, float y, const std::string& name, const std::string& detail) {
+    constexpr float boldWiderBy = 1.1F;
+    text(x, y, name, 9, ink::black, true);
+    if (!detail.empty()) text(x + boldWiderBy * widthOf(name, 9) + 100, y, detail);
+}
+
 void Figure::dimensionAcross(float x1, float x2, float y, const std::string& text) {
     line(x1, y - tick, x1, y + tick, ink::blue);
     line(x2, y - tick, x2, y + tick, ink::blue);
@@ -99,10 +119,13 @@ void Figure::dimensionAcross(float x1, float x2, float y, const std::string& tex
     this->text(width < x2 - x1 ? (x1 + x2 - width) / 2 : x1, y - 270, text, 9, ink::blue);
 }
 
-void Figure::dimensionDown(float x, float y1, float y2, const std::string& text) {
+void Figure::dimensionDown(float x, float y1, float y2, const std::string& text, bool stacked) {
     line(x - tick, y1, x + tick, y1, ink::blue);
     line(x - tick, y2, x + tick, y2, ink::blue);
     arrow(x, (y1 + y2) / 2, x, y1, ink::blue);
     arrow(x, (y1 + y2) / 2, x, y2, ink::blue);
-    this->text(x + 80, (y1 + y2) / 2 - 110, text, 9, ink::blue);
+    const std::size_t second = stacked ? text.find(" (") : std::string::npos;
+    float row = (y1 + y2) / 2 - (second == std::string::npos ? 110 : 220);
+    this->text(x + 80, row, text.substr(0, second), 9, ink::blue);
+    if (second != std::string::npos) this->text(x + 80, row + 220, text.substr(second + 1), 9, ink::blue);
 }

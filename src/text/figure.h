@@ -33,11 +33,15 @@ class Figure {
     void centred(float x, float y, const std::string& text, float size = 9, Colour colour = ink::black,
                  bool bold = false);
 
+    /// A bold name and, behind it, what is said of it, if anything.
+    void named(float x, float y, const std::string& name, const std::string& detail);
+
     /// A dimension between two points on a level, its text above the middle, or above its begin where it is
     /// longer.
     void dimensionAcross(float x1, float x2, float y, const std::string& text);
-    /// A dimension between two points above each other, its text to the right of the middle.
-    void dimensionDown(float x, float y1, float y2, const std::string& text);
+    /// A dimension between two points above each other, its text to the right of the middle; `stacked` puts
+    /// the second unit below the first.
+    void dimensionDown(float x, float y1, float y2, const std::string& text, bool stacked = false);
 
   private:
     Page page_;
@@ -46,5 +50,7 @@ class Figure {
 /// Width in twips of a text in Liberation Sans, within a few per cent.
 float widthOf(const std::string& text, float size);
 
-/// A length in both systems of units.
-std::string lengthText(double inches);
+enum class Quantity { Length, Pressure, Modulus, SubgradeModulus, UnitWeight, TemperatureDifference, Force };
+
+/// A value of a deck in English units in both systems: "6 in. (15.24 cm)".
+std::string inBothUnits(Quantity quantity, double english);

@@ -10,9 +10,10 @@
 
 namespace {
 
-// The section on the left, the plans of the load groups on the right.
-constexpr float sectionLeft = 300, sectionRight = 3500, sectionTop = 1150, sectionMargin = 500;
-constexpr float plansLeft = 5300, plansRight = 9400, plansTop = 250;
+// The section on the left, the plans of the load groups on the right, a quarter of an inch from the edges of
+// the paper.
+constexpr float sectionLeft = 360, sectionRight = 3560, sectionTop = 1200, sectionMargin = 500;
+constexpr float plansLeft = 5300, plansRight = 9400, plansTop = 360;
 
 int whole(const Variant& value) { return static_cast<int>(value.number()); }
 
@@ -31,10 +32,9 @@ void drawTires(Figure& figure, const LayeredSet& set) {
             figure.arrow(x, sectionTop - 350, x, sectionTop - 10);
         }
     }
-    figure.centred(middle, sectionTop - 620,
-                   set.NLG == 1
-                       ? "CR = " + lengthText(load.CR.number()) + ",  CP = " + load.CP.text() + " psi"
-                       : "Load group 1");
+    if (set.NLG > 1) return figure.centred(middle, sectionTop - 620, "Load group 1");
+    figure.centred(middle, sectionTop - 840, "CR = " + inBothUnits(Quantity::Length, load.CR.number()));
+    figure.centred(middle, sectionTop - 620, "CP = " + inBothUnits(Quantity::Pressure, load.CP.number()));
 }
 
 std::string modulusText(const LayeredSet& set, int layer) {
@@ -48,7 +48,7 @@ std::string modulusText(const LayeredSet& set, int layer) {
     if (isViscous(set) && among(set.VISLAY, set.NVL, [](const auto& l) { return l.LNV; }))
         return "viscoelastic";
     if (set.NPY > 1) return "E by period";
-    return "E = " + set.EMOD[1][layer].text() + " psi";
+    return "E = " + inBothUnits(Quantity::Modulus, set.EMOD[1][layer].number());
 }
 
 void drawSection(Figure& figure, const LayeredSet& set, const LayeredFigure& what) {
@@ -67,12 +67,14 @@ void drawSection(Figure& figure, const LayeredSet& set, const LayeredFigure& wha
         figure.box(sectionLeft, top, sectionRight, below, fill, fill);
         figure.line(sectionLeft, top, sectionRight, top, ink::black, 2);
         const float middle = (top + below) / 2;
-        figure.text(sectionLeft + 120, middle - 220, name, 9, ink::black, true);
-        figure.text(sectionLeft + 120, middle, modulusText(set, i) + ",  PR = " + set.LAYER[i].PR.text(), 9);
+        const float left = sectionLeft + 120;
+        figure.named(left, middle - 220, name, "PR = " + set.LAYER[i].PR.text());
+        figure.text(left, middle, modulusText(set, i));
         if (last) {
             figure.text(sectionRight + 100, middle - 110, "infinite", 9, ink::blue);
         } else {
-            figure.dimensionDown(sectionRight + 100, top, below, lengthText(set.LAYER[i].TH.number()));
+            figure.dimensionDown(sectionRight + 100, top, below,
+                                 inBothUnits(Quantity::Length, set.LAYER[i].TH.number()));
         }
         top = below;
     }
@@ -124,10 +126,10 @@ void drawPlan(Figure& figure, const LayeredSet& set, int group, const Plan& plan
     for (const Spot& point : pointsOf(set, group)) figure.cross(plan.x(point.x), plan.y(point.y));
     if (wheels.back().x > 0)
         figure.dimensionAcross(plan.x(0), plan.x(load.XW.number()), plan.y(wheels.back().y + CR) - 130,
-                               "XW = " + lengthText(load.XW.number()));
+                               "XW = " + inBothUnits(Quantity::Length, load.XW.number()));
     if (wheels.back().y > 0)
         figure.dimensionDown(plan.x(wheels.back().x + CR) + 150, plan.y(load.YW.number()), plan.y(0),
-                             "YW = " + numberText(load.YW.number()) + " in.");
+                             "YW = " + inBothUnits(Quantity::Length, load.YW.number()), true);
 }
 
 /// What stands beside and above the wheels, in twips.

@@ -11,9 +11,10 @@
 
 namespace {
 
-// The section on the left, the plans of the load groups on the right, a legend below them.
-constexpr float sectionLeft = 300, sectionRight = 3300, sectionTop = 1300, sectionMargin = 350;
-constexpr float plansLeft = 5050, plansRight = 9450, plansTop = 250, legendRow = 240;
+// The section on the left, the plans of the load groups on the right, a legend below them, a quarter of an
+// inch from the edges of the paper.
+constexpr float sectionLeft = 360, sectionRight = 3360, sectionTop = 1300, sectionMargin = 350;
+constexpr float plansLeft = 5050, plansRight = 9450, plansTop = 360, legendRow = 240;
 constexpr float slabHeight = 560;
 
 int whole(const Variant& value) { return static_cast<int>(value.number()); }
@@ -88,23 +89,36 @@ void drawSlabSection(Figure& figure, const SlabSet& set, const Arrangement& wher
         if (const float x = sectionX(where, where.left(s)); where.base(s) == 0 && where.left(s) > 0)
             figure.line(x, sectionTop, x, bottom, ink::blue, 3);
     // A joint divides the text, too.
-    const std::string YM = "YM = " + numberText(set.LAYER[1].YM) + " psi", PR = numberText(set.LAYER[1].PR);
+    const std::string YM = "YM = " + inBothUnits(Quantity::Modulus, set.LAYER[1].YM),
+                      PR = "PR = " + numberText(set.LAYER[1].PR);
     const float left = sectionLeft + 120, right = (sectionLeft + sectionRight) / 2 + 60,
-                row = sectionTop + 290;
-    figure.text(left, sectionTop + 60, "Concrete", 9, ink::black, true);
+                first = sectionTop + 60, second = sectionTop + 290;
     if (set.NSLAB == 1) {
-        figure.text(left, row, YM + ",  PR = " + PR);
+        figure.named(left, first, "Concrete", PR);
+        figure.text(left, second, YM);
     } else {
-        figure.text(left, row, "PR = " + PR);
-        figure.text(right, row, YM, 8);
+        const std::size_t unit = YM.find(" (");
+        figure.named(left, first, "Concrete", "");
+        figure.text(left, second, PR);
+        figure.text(right, first, YM.substr(0, unit), 8);
+        figure.text(right + 420, second, YM.substr(unit), 8);
     }
-    figure.dimensionDown(sectionRight + 100, sectionTop, bottom, lengthText(set.LAYER[1].T));
+    figure.dimensionDown(sectionRight + 100, sectionTop, bottom,
+                         inBothUnits(Quantity::Length, set.LAYER[1].T));
 }
 
-/// Foundation of a data set in lines: what it is, and its moduli.
-std::vector<std::string> foundationText(const SlabSet& set) {
-    if (set.NFOUND == 0) return {"Liquid foundation", "SUBMOD = " + set.SUBMOD.text() + " pci"};
-    return {"Solid foundation", "YMS = " + set.YMS.text() + " psi,  PRS = " + set.PRS.text()};
+/// Foundation of a data set: what it is, its Poisson ratio and its modulus.
+struct FoundationText {
+    std::string name, PR, modulus;
+    bool operator==(const FoundationText&) const = default;
+};
+
+FoundationText foundationText(const SlabSet& set) {
+    if (set.NFOUND == 0)
+        return {"Liquid foundation", "",
+                "SUBMOD = " + inBothUnits(Quantity::SubgradeModulus, set.SUBMOD.number())};
+    return {"Solid foundation", "PRS = " + set.PRS.text(),
+            "YMS = " + inBothUnits(Quantity::Modulus, set.YMS.number())};
 }
 
 void drawFoundationLayers(Figure& figure, const SlabSet& set, float bottom) {
@@ -116,10 +130,12 @@ void drawFoundationLayers(Figure& figure, const SlabSet& set, float bottom) {
         const Colour fill = soils.at(static_cast<std::size_t>(k - 1) % 2);
         figure.box(sectionLeft, y, sectionRight, y + each, fill, fill);
         const SlabSet::FoundationLayer& l = set.FOUNDATION[k];
-        figure.text(sectionLeft + 120, middle - 220, "Foundation layer " + std::to_string(k), 9, ink::black,
-                    true);
-        figure.text(sectionLeft + 120, middle, "E = " + l.E.text() + " psi,  PR = " + l.PRBF.text());
-        if (k < layers) figure.dimensionDown(sectionRight + 100, y, y + each, lengthText(l.TH.number()));
+        figure.named(sectionLeft + 120, middle - 220, "Foundation layer " + std::to_string(k),
+                     "PR = " + l.PRBF.text());
+        figure.text(sectionLeft + 120, middle, "E = " + inBothUnits(Quantity::Modulus, l.E.number()));
+        if (k < layers)
+            figure.dimensionDown(sectionRight + 100, y, y + each,
+                                 inBothUnits(Quantity::Length, l.TH.number()));
     }
     figure.text(sectionRight + 100, bottom - each / 2 - 110, "infinite", 9, ink::blue);
 }
@@ -129,15 +145,15 @@ void drawFoundation(Figure& figure, const Store& store, float bottom) {
     if (store.slab[1].NFOUND == 2) return drawFoundationLayers(figure, store.slab[1], bottom);
     constexpr Colour soil = 0xEEE6D2;
     figure.box(sectionLeft, sectionTop + slabHeight, sectionRight, bottom, soil, soil);
-    std::vector<std::vector<std::string>> all;
+    std::vector<FoundationText> all;
     for (int n = 1; n <= store.SlabNPROB.number(); ++n)
-        if (auto lines = foundationText(store.slab[n]); all.empty() || all.back() != lines)
-            all.push_back(std::move(lines));
+        if (auto text = foundationText(store.slab[n]); all.empty() || all.back() != text)
+            all.push_back(std::move(text));
     float y = sectionTop + slabHeight + 130;
     for (std::size_t n = 0; n < all.size(); ++n, y += 620) {
         const std::string letter = all.size() > 1 ? std::string("(") + "ab"[n] + ") " : "";
-        figure.text(sectionLeft + 120, y, letter + all[n][0], 9, ink::black, true);
-        figure.text(sectionLeft + 120, y + 220, all[n][1]);
+        figure.named(sectionLeft + 120, y, letter + all[n].name, all[n].PR);
+        figure.text(sectionLeft + 120, y + 220, all[n].modulus);
     }
     figure.text(sectionRight + 100, bottom - 400, "infinite", 9, ink::blue);
 }
@@ -148,11 +164,12 @@ void nameSection(Figure& figure, const SlabSet& first, const SlabSet& last, int 
     if (last.NLG > 1) figure.text(sectionLeft + 900, y, "under load group " + std::to_string(group));
     y += legendRow;
     if (first.NTEMP.number() == 1)
-        figure.text(
-            sectionLeft, y,
-            "TEMP = " + first.TEMP.text() + " F" +
-                (first.NWT.number() == 1 ? ",  GAMA = " + numberText(first.LAYER[1].GAMA) + " pcf" : ""),
-            9, ink::blue);
+        figure.text(sectionLeft, y,
+                    "TEMP = " + inBothUnits(Quantity::TemperatureDifference, first.TEMP.number()) +
+                        (first.NWT.number() == 1
+                             ? ",  GAMA = " + inBothUnits(Quantity::UnitWeight, first.LAYER[1].GAMA)
+                             : ""),
+                    9, ink::blue);
 }
 
 // --- The plans --------------------------------------------------------------------------------------------
@@ -194,13 +211,15 @@ void drawLegend(Figure& figure, const SlabSet& set, float y) {
     }
     if (set.UL.number() == 1 && set.NUDL[1] > 0) {
         figure.box(x + 30, y + 40, x + 170, y + 180, loaded, ink::red);
-        figure.text(text, y, areaSizes(set) + " under QQ = " + set.AREA[1][1].QQ.text() + " psi");
+        figure.text(
+            text, y,
+            areaSizes(set) + ",  QQ = " + inBothUnits(Quantity::Pressure, set.AREA[1][1].QQ.number()));
     } else if (set.NCNF > 0) {
         const auto force = [&](int i) { return set.FORCE[i].FF; };
         double most = 0;
         for (int i = 1; i <= set.NCNF; ++i) most = std::max(most, force(i));
         figure.circle(x + 100, y + 110, 90, ink::red, ink::red);
-        figure.text(text, y, "columns, FF = " + numberText(most) + " lb");
+        figure.text(text, y, "columns, FF = " + inBothUnits(Quantity::Force, most));
         y += legendRow;
         figure.circle(x + 100, y + 110, 35, ink::red, ink::red);
         figure.text(text, y, "walls, FF = " + rangeText(force, set.NCNF, most) + " lb");
@@ -213,7 +232,7 @@ void drawLegend(Figure& figure, const SlabSet& set, float y) {
 
 void drawPlans(Figure& figure, const SlabSet& set, const Arrangement& where, float height) {
     const int groups = set.NLG;
-    constexpr float besideLast = 800, between = 200;
+    constexpr float besideLast = 1050, between = 200;
     const float bottom = height - 850;
     const float each = (plansRight - plansLeft - (groups > 1 ? besideLast : 0)) / static_cast<float>(groups);
     for (int g = 1; g <= groups; ++g) {

@@ -18,7 +18,7 @@ struct Scale {
 
 /// Both units where they have room, else the deck's.
 std::string lengthWithin(float room, double inches) {
-    const std::string both = lengthText(inches);
+    const std::string both = inBothUnits(Quantity::Length, inches);
     return widthOf(both, 9) < room ? both : numberText(inches) + " in.";
 }
 
@@ -127,7 +127,7 @@ void drawDimensions(Figure& figure, const SlabSet& set, const Arrangement& where
         }
         if (slab.JONO2 == 0)
             figure.dimensionDown(beside, to.y(where.base(s) + breadthOf(slab)), to.y(where.base(s)),
-                                 numberText(breadthOf(slab)) + " in.");
+                                 inBothUnits(Quantity::Length, breadthOf(slab)), true);
     }
 }
 
@@ -182,7 +182,7 @@ NodePlace placeOf(const SlabSet& set, const Arrangement& where, int node) {
 }
 
 void drawSlabPlan(Figure& figure, const SlabSet& set, const Arrangement& where, const PlanFrame& frame) {
-    constexpr float aboveForSizes = 500, besideForSizes = 1000;
+    constexpr float aboveForSizes = 500, besideForSizes = 1250;
     const float room = frame.right - frame.left - (frame.sized ? besideForSizes : 0);
     const float high = frame.bottom - frame.top - aboveForSizes;
     const float twips =

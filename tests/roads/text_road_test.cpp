@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "roads/road.h"
+#include "text/frm_help1.h"
 #include "text/frm_sheet.h"
 #include "text/pages.h"
 #include "text/sheets.h"
@@ -44,19 +45,25 @@ TEST_F(TextRoad, ChangesADeckAndReadsItsResults) {
 }
 
 /// With TOLMARK_PICTURES set, the first job of each is left there for a look.
-TEST_F(TextRoad, EverySheetGoesToPaper) {
+TEST_F(TextRoad, EverySheetAndSectionGoesToPaper) {
     const char* const pictures = std::getenv("TOLMARK_PICTURES");
+    const auto print = [&](const std::string& form, const std::string& entry, const std::string& name) {
+        notes.clear();
+        choose(form, entry);
+        ASSERT_FALSE(notes.empty()) << name;
+        const std::filesystem::path job = notes[0].substr(notes[0].find('/'));
+        EXPECT_GT(std::filesystem::file_size(job), 1000U) << notes[0];
+        if (pictures) std::filesystem::copy(job, pictures + ("/" + name + ".pdf"));
+    };
     for (const Sheet& sheet : sheets()) {
         showSheet(program, sheet.form);
-        for (const std::string& entry : {std::string("mnuPrintForm"), sheet.mnuPrintText}) {
-            notes.clear();
-            choose(sheet.form, entry);
-            ASSERT_FALSE(notes.empty()) << sheet.form << " " << entry;
-            const std::filesystem::path job = notes[0].substr(notes[0].find('/'));
-            EXPECT_GT(std::filesystem::file_size(job), 1000U) << notes[0];
-            if (pictures) std::filesystem::copy(job, pictures + ("/" + sheet.form + entry + ".pdf"));
-        }
+        print(sheet.form, "mnuPrintForm", sheet.form + "_figure");
+        print(sheet.form, sheet.mnuPrintText, sheet.form + "_text");
         choose(sheet.form, "mnuExit");
+    }
+    for (int number = 1; number <= 10; ++number) {
+        showManual(program, number);
+        print("frmHelp1", "mnuPrint", "section" + std::to_string(number));
     }
 }
 

@@ -49,10 +49,12 @@ Page blankSheet() {
     return {static_cast<float>(size.width()), static_cast<float>(size.height()), {}};
 }
 
-/// Each sheet from the corner of its paper, at its own size or what of it the paper has room for.
+/// Each sheet from the corner of its paper, at its own size or what of it the paper has room for. The paper
+/// is turned only for a sheet that is too wide for it.
 void paintSheets(QPagedPaintDevice& device, const std::vector<Page>& sheets) {
-    const bool wide = sheets.front().width > sheets.front().height;
-    const QPageLayout paper = paperOf(wide ? QPageLayout::Landscape : QPageLayout::Portrait);
+    const QPageLayout upright = paperOf(QPageLayout::Portrait);
+    const bool wide = sheets.front().width > twips(upright).width() + 1;
+    const QPageLayout paper = wide ? paperOf(QPageLayout::Landscape) : upright;
     device.setPageLayout(paper);
     QPainter painter;
     if (!painter.begin(&device)) throw RunTimeError(Fault::InvalidCall, "the printer takes no job");
