@@ -1,8 +1,10 @@
 #include "program/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <array>
 #include <filesystem>
 #include <iostream>
+#include <map>
 
 #include "platform/files.h"
 #include "platform/qt/batch.h"
@@ -54,6 +56,13 @@ int solve(const std::string& name, const std::string& programDirectory,
     arguments.insert(arguments.end(), options.begin(), options.end());
     return runAndWait(programDirectory + "/" + solver, arguments);
 }
+
+/// Options that go to the solver as they are; it refuses those of the other one.
+constexpr std::array<std::pair<const char*, const char*>, 4> tableOptions = {
+    {{"--csv", "the results"},
+     {"--csv-moduli", "the moduli of a layered deck by iteration"},
+     {"--csv-damage", "the damage of a layered deck"},
+     {"--csv-joints", "the joint forces of a slab deck"}}};
 
 struct PlotRequest {
     std::string deck, pdf, svg, png;
@@ -153,10 +162,12 @@ int runCommandLine(int argc, char** argv) {
     app.require_subcommand(0, 1);
 
     std::vector<std::string> decks;
-    std::string csv;
     auto* solveCommand = app.add_subcommand("solve", "solve decks with the solver that they are for");
     solveCommand->add_option("deck", decks, "data files")->required();
-    auto* csvOption = solveCommand->add_option("--csv", csv, "write the results of the one deck as a table");
+    std::map<std::string, std::string> passedOn;
+    for (const auto& [option, purpose] : tableOptions)
+        solveCommand->add_option(option, passedOn[option],
+                                 std::string("write ") + purpose + " as a table to this file, of one deck");
 
     PlotRequest request;
     auto* plotCommand = app.add_subcommand("plot", "write the plot pages of a solved deck");
@@ -174,13 +185,14 @@ int runCommandLine(int argc, char** argv) {
     if (app.get_subcommands().empty()) return runDesktop(argc, argv);
     try {
         if (*plotCommand) return plot(request);
-        if (*csvOption && decks.size() > 1) return fail("--csv", "takes the results of one deck only");
+        std::vector<std::string> options;
+        for (const auto& [option, file] : passedOn)
+            if (!file.empty()) options.insert(options.end(), {option, file});
+        if (!options.empty() && decks.size() > 1)
+            return fail(options[0], "takes the results of one deck only");
         int status = DONE;
-        for (const std::string& deck : decks) {
-            std::vector<std::string> options;
-            if (*csvOption) options = {"--csv", csv};
+        for (const std::string& deck : decks)
             if (solve(deck, executableDirectory(), options) != DONE) status = FAILED;
-        }
         return status;
     } catch (const std::exception& error) {
         std::cerr << "tolmark: " << error.what() << std::endl;

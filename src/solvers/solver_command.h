@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <functional>
+#include <map>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -44,8 +45,11 @@ class SolverCommand {
 
     /// For the options of one solver.
     CLI::App& options() { return app_; }
+    /// An option that names a file for one more table of results, which is filled through writeTable().
+    void addTable(const std::string& option, const std::string& description);
+    /// To the file that the user named for it, if any.
+    void writeTable(const std::string& option, const std::string& text) const;
     bool quiet() const { return quiet_; }
-    const std::string& csv() const { return csv_; }
 
     /// Parses, removes the results of an earlier run, which must not pass for those of this one, and solves.
     /// What `solveDeck` throws goes to the error stream and into the .TXT, no plot file stays, and the status
@@ -57,9 +61,13 @@ class SolverCommand {
 
   private:
     int fail(const ResultFiles& files, const std::string& sentence) const;
+    /// A sentence when a table would take the place of the deck or of another result, else empty.
+    std::string clashOfNames(const ResultFiles& files) const;
+    void removeResults(const ResultFiles& files) const;
 
     SolverProgram program_;
     CLI::App app_;
-    std::string path_, csv_;
+    std::string path_;
+    std::map<std::string, std::string> tables_;  ///< the path by the option
     bool quiet_ = false;
 };

@@ -90,8 +90,7 @@ plate::Solution solveDataSet(const SlabSet& set, int n, const plate::Problem& pr
     return solution;
 }
 
-void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverCommand& command,
-               const std::string& csvJoints) {
+void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverCommand& command) {
     const auto store = std::make_unique<Store>();
     const DeckReadResult read = readSlabDeck(files.deck, *store);
     requireSound(read, checkSlabDeck(*store), "slab");
@@ -109,8 +108,8 @@ void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverC
         before = statesAfter(solveDataSet(set, n, problem, command.quiet(), out), set);
     }
 
-    if (!command.csv().empty()) writeFileAtomically(command.csv(), out.nodes.str());
-    if (!csvJoints.empty()) writeFileAtomically(csvJoints, out.joints.str());
+    command.writeTable("--csv", out.nodes.str());
+    command.writeTable("--csv-joints", out.joints.str());
     writeFileAtomically(files.text, out.text.str());
     writePanFile(files.plot, out.plots);
     command.announce(files, true);
@@ -121,9 +120,6 @@ void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverC
 int runTolplate(const SlabSolver& solver, int argc, char** argv) {
     SolverCommand command(
         {solver.name, "Deflections and stresses of concrete slabs on a foundation.", ".PAN"});
-    std::string csvJoints;
-    command.options().add_option("--csv-joints", csvJoints,
-                                 "also write the joint forces as a table to this file");
-    return command.run(argc, argv,
-                       [&](const ResultFiles& files) { solveDeck(solver, files, command, csvJoints); });
+    command.addTable("--csv-joints", "the joint forces");
+    return command.run(argc, argv, [&](const ResultFiles& files) { solveDeck(solver, files, command); });
 }

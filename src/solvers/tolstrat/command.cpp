@@ -18,7 +18,6 @@
 namespace {
 
 struct Options {
-    std::string csvModuli, csvDamage;
     bool quiet = false;
     int threads = std::max(1, static_cast<int>(std::thread::hardware_concurrency()));
 };
@@ -128,10 +127,9 @@ void solveDeck(const ResultFiles& files, const SolverCommand& command, const Opt
     writeHeading(out.text, files.deckName(), store.NPROB);
     for (int n = 1; n <= store.NPROB; ++n) solveDataSet(store.layered[n], n, options, out);
 
-    for (const auto& [path, table] : {std::pair(&command.csv(), &out.responseText),
-                                      {&options.csvModuli, &out.moduliText},
-                                      {&options.csvDamage, &out.damageText}})
-        if (!path->empty()) writeFileAtomically(*path, table->str());
+    command.writeTable("--csv", out.responseText.str());
+    command.writeTable("--csv-moduli", out.moduliText.str());
+    command.writeTable("--csv-damage", out.damageText.str());
     writeFileAtomically(files.text, out.text.str());
     const bool plotted = static_cast<Integer>(out.problems.size()) == store.NPROB;
     if (plotted) writeBedFile(files.plot, out.problems);
@@ -143,11 +141,10 @@ void solveDeck(const ResultFiles& files, const SolverCommand& command, const Opt
 int runTolstrat(int argc, char** argv) {
     SolverCommand command(TOLSTRAT);
     Options options;
-    CLI::App& app = command.options();
-    app.add_option("--csv-moduli", options.csvModuli,
-                   "also write the moduli of nonlinear and viscoelastic layers, by iteration, to this file");
-    app.add_option("--csv-damage", options.csvDamage, "also write the damage as a table to this file");
-    app.add_option("--threads", options.threads, "load groups and periods solved at the same time")
+    command.addTable("--csv-moduli", "the moduli of nonlinear and viscoelastic layers, by iteration,");
+    command.addTable("--csv-damage", "the damage");
+    command.options()
+        .add_option("--threads", options.threads, "load groups and periods solved at the same time")
         ->check(CLI::Range(1, 64));
     return command.run(argc, argv, [&](const ResultFiles& files) {
         options.quiet = command.quiet();
