@@ -18,8 +18,8 @@ const Deck<LayeredSet>& layeredDeck() {
 /// Reads a data set of either format.
 class LayeredReader : public CardReader<LayeredSet> {
   public:
-    LayeredReader(ListReader& in, LayeredSet& set, DeckPlace& where, const LayeredReadHooks& hooks)
-        : CardReader(in, set, where), hooks_(hooks) {}
+    LayeredReader(ListReader& in, LayeredSet& set, DeckReading& reading, const LayeredReadHooks& hooks)
+        : CardReader(in, set, reading), hooks_(hooks) {}
 
   private:
     static constexpr std::size_t shortestNewLabel = 7;  // "(4) DEL"
@@ -36,7 +36,7 @@ class LayeredReader : public CardReader<LayeredSet> {
         // (4).
         if (card.number == 30 && label().size() < shortestNewLabel) {
             Variant& GAM = *std::get<Variant*>(cell);
-            GAM = ToInteger(GAM.number() * 1728);
+            GAM = perCubicFoot(GAM.number());
         }
     }
 
@@ -44,11 +44,18 @@ class LayeredReader : public CardReader<LayeredSet> {
         CardReader::cardEnd(card);
         if (card.number == 4) {
             oldFormat_ = label().size() < shortestNewLabel;
+            if (oldFormat_)
+                remarks_.push_back(where_.text() +
+                                   ": the label is short, which marks the old format: card (5) has no NUNIT");
             const bool granular = set().MATL == 2 || set().MATL == 4;
             if (oldFormat_ && granular && hooks_.oldFormatPHI) hooks_.oldFormatPHI(where_.set);
         }
+        if (card.number == 29 && label().size() < shortestNewLabel)
+            remarks_.push_back(
+                where_.text() +
+                ": the label is short, so that GAM is taken per cubic inch and multiplied by 1728");
         if (card.number == 9 && !label().starts_with("(9)"))
-            throw NotADeck{labelLine(), "the label \"(9)\" is not there: this is no layered deck"};
+            throw NotADeck{labelLine(), "the label \"(9)\" is not there"};
     }
 
     const LayeredReadHooks& hooks_;
@@ -65,8 +72,8 @@ DeckReadResult readLayeredDeck(ListReader& in, Store& store, const LayeredReadHo
         if (hooks.nprobRead) hooks.nprobRead(store.NPROB);
     };
     return readDeck(layeredDeck(), in, store, countRead,
-                    [&](ListReader& from, LayeredSet& set, DeckPlace& where) {
-                        LayeredReader(from, set, where, hooks).walk(layeredCards());
+                    [&](ListReader& from, LayeredSet& set, DeckReading& reading) {
+                        LayeredReader(from, set, reading, hooks).walk(layeredCards());
                     });
 }
 

@@ -32,4 +32,5 @@ const char* sentence(Fault fault) {
 
 RunTimeError::RunTimeError(Fault fault, const std::string& detail)
     : std::runtime_error(detail.empty() ? std::string(sentence(fault)) : sentence(fault) + (": " + detail)),
-      fault_(fault) {}
+      fault_(fault),
+      detail_(detail) {}

@@ -24,7 +24,9 @@ class RunTimeError : public std::runtime_error {
     /// `detail` is appended to the fault's own sentence, e.g. a file name.
     explicit RunTimeError(Fault fault, const std::string& detail = "");
     Fault fault() const { return fault_; }
+    const std::string& detail() const { return detail_; }
 
   private:
     Fault fault_;
+    std::string detail_;
 };

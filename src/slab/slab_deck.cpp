@@ -75,7 +75,13 @@ class SlabReader : public CardReader<SlabSet> {
             return;
         }
         CardReader::cardEnd(card);
-        if (card.number == 4) old_ = withoutTrailingBlanks(label()).size() <= longestOldLabel;
+        if (card.number == 4) {
+            old_ = withoutTrailingBlanks(label()).size() <= longestOldLabel;
+            if (old_)
+                remarks_.push_back(where_.text() +
+                                   ": the label is short, which marks the old format: card (6) "
+                                   "has no NUNIT, and unit weights are per cubic inch");
+        }
         if (card.number == 9) label9_ = label();
     }
 
@@ -92,18 +98,15 @@ class SlabReader : public CardReader<SlabSet> {
 
     void testLabel9() {
         where_ = {where_.set, 9, "", {}};
-        if (!label9_.starts_with("(9)"))
-            throw NotADeck{labelLine(), "the label \"(9)\" is not there: this is no slab deck"};
+        if (!label9_.starts_with("(9)")) throw NotADeck{labelLine(), "the label \"(9)\" is not there"};
     }
 
-    /// Old unit weights are per cubic inch; per cubic foot they are whole numbers.
     void convertUnitWeights() {
-        constexpr Double cubicInches = 1728;
         for (int layer = 1; layer <= 2; ++layer) {
             Single& GAMA = set().LAYER[layer].GAMA;
             where_.field = "GAMA";
             where_.at = {layer, 0, 0};
-            GAMA = ToInteger(Double{GAMA} * cubicInches);
+            GAMA = perCubicFoot(GAMA);
         }
     }
 
@@ -118,10 +121,11 @@ void saveSlabDeck(const Store& store, ListWriter& out) { saveDeck(slabDeck(), st
 void saveSlabDeck(const Store& store, const std::string& path) { saveDeck(slabDeck(), store, path); }
 
 DeckReadResult readSlabDeck(ListReader& in, Store& store, const std::function<void()>& countRead) {
-    return readDeck(slabDeck(), in, store, countRead, [](ListReader& from, SlabSet& set, DeckPlace& where) {
-        SlabReader(from, set, where).walk(slabCards());
-        computeStatus(set);
-    });
+    return readDeck(slabDeck(), in, store, countRead,
+                    [](ListReader& from, SlabSet& set, DeckReading& reading) {
+                        SlabReader(from, set, reading).walk(slabCards());
+                        computeStatus(set);
+                    });
 }
 
 DeckReadResult readSlabDeck(const std::string& path, Store& store, const std::function<void()>& countRead) {

@@ -28,11 +28,17 @@ bool standsBefore(const DeckPlace& a, const DeckPlace& b) {
 
 void requireSound(const DeckReadResult& read, const std::optional<DeckFault>& fault,
                   const std::string& kind) {
-    if (read.outcome == DeckReadResult::Outcome::NotADeck)
-        throw BadDeck("this is not a " + kind + " deck: " + read.sentence());
-    if (read.outcome == DeckReadResult::Outcome::Failed)
-        throw BadDeck(fault && standsBefore(fault->where, read.where) ? fault->sentence : read.sentence());
-    if (fault) throw BadDeck(fault->sentence);
+    using enum DeckReadResult::Outcome;
+    if (read.outcome == Complete && !fault) return;
+    std::string sentence;
+    const auto add = [&](const std::string& part) { sentence += (sentence.empty() ? "" : "; ") + part; };
+    if (read.outcome == NotADeck) add("this is not a " + kind + " deck: " + read.sentence());
+    if (fault && (read.outcome == Complete || standsBefore(fault->where, read.where)))
+        add(fault->sentence);
+    else if (read.outcome == Failed)
+        add(read.sentence());
+    if (!read.remarks.empty()) add("look at " + read.remarks.front());
+    throw BadDeck(sentence);
 }
 
 SolverCommand::SolverCommand(const SolverProgram& program)
@@ -82,12 +88,20 @@ int SolverCommand::run(int argc, char** argv, const std::function<void(const Res
         solveDeck(files);
     } catch (const RunTimeError& fault) {
         const bool overflow = fault.fault() == Fault::Overflow;
-        return fail(files, std::string(fault.what()) +
-                               (overflow ? ": the values of this deck lead to numbers beyond all range" : ""));
+        return fail(files,
+                    std::string(fault.what()) +
+                        (overflow ? ": the values of this deck lead to numbers beyond all range" : ""));
     } catch (const std::exception& fault) {
         return fail(files, fault.what());
     }
     return SOLVED;
+}
+
+void SolverCommand::tell(const std::vector<std::string>& remarks, std::ostream& text) const {
+    for (const std::string& remark : remarks) {
+        text << "*** " << remark << " ***\r\n";
+        if (!quiet_) std::cout << "*** " << remark << " ***" << std::endl;
+    }
 }
 
 void SolverCommand::announce(const ResultFiles& files, bool plotted) const {

@@ -56,6 +56,8 @@ class SolverCommand {
     /// is BAD_DECK.
     int run(int argc, char** argv, const std::function<void(const ResultFiles&)>& solveDeck);
 
+    /// What there is to say of the reading of a deck, into the text and, unless quiet, onto the console.
+    void tell(const std::vector<std::string>& remarks, std::ostream& text) const;
     /// Tells where the results are, unless quiet. `plotted`: there is a plot file.
     void announce(const ResultFiles& files, bool plotted) const;
 

@@ -20,6 +20,23 @@ std::string DeckReadResult::sentence() const {
     return line == 0 ? reason : "line " + std::to_string(line) + ": " + where.text() + ": " + reason;
 }
 
+std::string remarkOnLabel(const std::string& label, int line, const DeckPlace& where) {
+    const std::string first = label.substr(0, label.find(' '));
+    std::string remark;
+    if (first.starts_with('(') && first.ends_with(')')) {
+        if (first == "(" + std::to_string(where.card) + ")") return "";
+        remark = "the label is that of card " + first + "; is a line missing, or a count wrong?";
+    } else {
+        try {
+            ToDouble(first);
+        } catch (const RunTimeError&) {
+            return "";
+        }
+        remark = "the values from " + first + " on were not read; is a line missing, or a count wrong?";
+    }
+    return "line " + std::to_string(line) + ": " + where.text() + ": " + remark;
+}
+
 void writeCell(ListWriter& out, const Cell& cell, Layout layout, TypedText typedText) {
     if (const auto* text = std::get_if<std::string*>(&cell)) {
         out.text(**text);
@@ -56,13 +73,26 @@ void readCell(ListReader& in, const Cell& cell) {
     std::visit([&](auto* value) { readValue(in, *value); }, cell);
 }
 
-DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const DeckPlace& where) {
+Integer perCubicFoot(Double perCubicInch) {
+    try {
+        return ToInteger(perCubicInch * 1728);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.fault(), numberText(perCubicInch) + " per cubic inch");
+    }
+}
+
+DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const DeckReading& reading) {
+    constexpr int cardBehindTitle = 3;
     const auto reason = [&]() -> std::string {
+        const std::string item = in.nextItem();
         switch (error.fault()) {
             case Fault::TypeMismatch:
-                return '"' + in.nextItem() + "\" is no number";
+                if (item.starts_with('(')) return "the label " + item + " stands where a number should";
+                return '"' + item + "\" is no number" +
+                       (reading.where.card == cardBehindTitle ? "; has the title a comma, which ends it?"
+                                                              : "");
             case Fault::Overflow:
-                return "the value is out of range";
+                return (error.detail().empty() ? item : error.detail()) + " is out of range";
             case Fault::EndOfFile:
                 return "the file ends here";
             case Fault::SubscriptOutOfRange:
@@ -71,5 +101,5 @@ DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const
                 return error.what();
         }
     };
-    return {DeckReadResult::Outcome::Failed, where, in.lineNumber(), reason()};
+    return {DeckReadResult::Outcome::Failed, reading.where, in.lineNumber(), reason(), reading.remarks};
 }

@@ -108,6 +108,9 @@ struct DeckReadResult {
     DeckPlace where;
     int line = 0;        ///< of the file, from 1; 0 when the file could not be opened
     std::string reason;  ///< "\"abc\" is no number"
+    /// What was read otherwise than the user may think, a sentence each: values that were passed over, signs
+    /// of an old format.
+    std::vector<std::string> remarks = {};
 
     /// "line 7: TH(2), card (6), data set 1: \"abc\" is no number"
     std::string sentence() const;
@@ -203,10 +206,20 @@ class CardWriter : public CardWalker<Set> {
     TypedText typedText_;
 };
 
+/// How far the reading of a deck has come, and what there is to say of it.
+struct DeckReading {
+    DeckPlace where;
+    std::vector<std::string> remarks;
+};
+
+/// The sentence about a label that is that of another card, or has values in front; empty for any other.
+std::string remarkOnLabel(const std::string& label, int line, const DeckPlace& where);
+
 template <class Set>
 class CardReader : public CardWalker<Set> {
   public:
-    CardReader(ListReader& in, Set& set, DeckPlace& where) : CardWalker<Set>(set, where), in_(in) {}
+    CardReader(ListReader& in, Set& set, DeckReading& reading)
+        : CardWalker<Set>(set, reading.where), in_(in), remarks_(reading.remarks) {}
 
   protected:
     void value(const Card<Set>&, const Run<Set>&, Cell cell) override { readCell(in_, cell); }
@@ -215,17 +228,23 @@ class CardReader : public CardWalker<Set> {
         this->where_.field = "";
         labelLine_ = in_.lineNumber();
         label_ = in_.readText();
+        if (auto remark = remarkOnLabel(label_, labelLine_, this->where_); !remark.empty())
+            remarks_.push_back(std::move(remark));
     }
     /// The label last read, without its leading blank.
     const std::string& label() const { return label_; }
     int labelLine() const { return labelLine_; }
 
     ListReader& in_;
+    std::vector<std::string>& remarks_;
 
   private:
     std::string label_;
     int labelLine_ = 0;
 };
 
-/// The result for a reading that failed at `where`.
-DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const DeckPlace& where);
+/// A unit weight of the old formats in the present unit, which is whole there. Overflow beyond an Integer.
+Integer perCubicFoot(Double perCubicInch);
+
+/// The result for a reading that failed.
+DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const DeckReading& reading);

@@ -55,24 +55,29 @@ void saveDeck(const Deck<Set>& deck, const Store& store, const std::string& path
 }
 
 /// Reads a deck into the store, value by value: what was read before a failure stays. Checks no count and no
-/// limit. `countRead` is called when the number of data sets is known; `readSet(in, set, where)` reads one.
+/// limit. `countRead` is called when the number of data sets is known; `readSet(in, set, reading)` reads one.
 template <class Set, class ReadSet>
 DeckReadResult readDeck(const Deck<Set>& deck, ListReader& in, Store& store,
                         const std::function<void()>& countRead, ReadSet readSet) {
-    DeckPlace where;
+    DeckReading reading;
     try {
-        CardReader<Store>(in, store, where).walk(deck.fileCards);
+        CardReader<Store>(in, store, reading).walk(deck.fileCards);
         if (countRead) countRead();
         for (int n = 1; n <= deck.count(store); ++n) {
-            where = {n, 0, "", {}};
-            readSet(in, deck.set(store, n), where);
+            reading.where = {n, 0, "", {}};
+            readSet(in, deck.set(store, n), reading);
         }
     } catch (const NotADeck& found) {
-        return {DeckReadResult::Outcome::NotADeck, where, found.line, found.reason};
+        return {DeckReadResult::Outcome::NotADeck, reading.where, found.line, found.reason, reading.remarks};
     } catch (const RunTimeError& error) {
-        return failedRead(error, in, where);
+        return failedRead(error, in, reading);
     }
-    return {};
+    if (const std::string left = in.nextItem(); !left.empty())
+        reading.remarks.push_back("line " + std::to_string(in.lineNumber()) + ": what stands from \"" + left +
+                                  "\" on was not read; it is behind the last data set");
+    DeckReadResult whole;
+    whole.remarks = std::move(reading.remarks);
+    return whole;
 }
 
 /// Opens `path`, resolved ignoring letter case, and reads it. One that cannot be opened is a failure on

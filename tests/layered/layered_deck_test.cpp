@@ -253,9 +253,9 @@ TEST(LayeredDeck, BadDecksAreToldByLineFieldAndCard) {
         {replaced(deck, " 1  (1)", " 2  (1)"), Outcome::Failed,
          "line 15: TITLE, card (2), data set 2: the file ends here"},
         {replaced(deck, " 1  (1)", " 6  (1)") + deck + deck, Outcome::Failed,
-         "line 16: MATL, card (3), data set 2: \"Three\" is no number"},
+         "line 16: MATL, card (3), data set 2: \"Three\" is no number; has the title a comma, which ends it?"},
         {replaced(deck, "(9) NBOND", "(9 NBOND"), Outcome::NotADeck,
-         "line 9: card (9), data set 1: the label \"(9)\" is not there: this is no layered deck"},
+         "line 9: card (9), data set 1: the label \"(9)\" is not there"},
     };
     for (const auto& row : rows) {
         const auto read = std::make_unique<Store>();

@@ -300,7 +300,7 @@ TEST(SlabDeck, OldestGenerationDiffersInThreePlaces) {
                   " 2  7  (13)", " 2  7  8  9  (13)"),
          "line 12: NCNF(4), card (13), data set 1: more than a data file can hold"},
         {replaced(deck, ".0234375", "150"),
-         "line 13: GAMA(2), card (13), data set 1: the value is out of range"},
+         "line 13: GAMA(2), card (13), data set 1: 150 per cubic inch is out of range"},
     };
     for (const auto& row : rows) EXPECT_EQ(read(row.text, *store).sentence(), row.sentence);
     EXPECT_EQ(s.LAYER[1].GAMA, 14) << "converted in front of the one that failed";
@@ -319,19 +319,19 @@ TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
         const char* sentence;
     } rows[] = {
         {replaced(deck, "(9) X's", "9 X's"), Outcome::NotADeck,
-         "line 9: card (9), data set 1: the label \"(9)\" is not there: this is no slab deck"},
+         "line 9: card (9), data set 1: the label \"(9)\" is not there"},
         {replaced(deck, " 8   .15", " 8   x"), Outcome::Failed,
          "line 10: PR(1), card (10), data set 1: \"x\" is no number"},
         {replaced(deck, " 3   2   0", " 3   40000   0"), Outcome::Failed,
-         "line 5: NY(1), card (5), data set 1: the value is out of range"},
+         "line 5: NY(1), card (5), data set 1: 40000 is out of range"},
         {replaced(deck, " 3   2   0", " 26   2   0"), Outcome::Failed,
-         "line 9: X(1, 6), card (9), data set 1: \"(9)\" is no number"},
+         "line 9: X(1, 6), card (9), data set 1: the label (9) stands where a number should"},
         {deck.substr(0, deck.find("   (22)")), Outcome::Failed,
          "line 15: card (22), data set 1: the file ends here"},
         {replaced(deck, " 1  (1)", " 3  (1)") + deck.substr(deck.find("Single")) + "T\r\n", Outcome::Failed,
          "line 32: data set 3: more than a data file can hold"},
         {replaced(deck, "Single slab", "Single, slab"), Outcome::Failed,
-         "line 2: NFOUND, card (3), data set 1: \"slab\" is no number"},
+         "line 2: NFOUND, card (3), data set 1: \"slab\" is no number; has the title a comma, which ends it?"},
         {"", Outcome::Failed, "line 1: NPROB, card (1): the file ends here"},
     };
     for (const auto& row : rows) {

@@ -98,6 +98,7 @@ void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverC
 
     Output out;
     writeHeading(out.text, solver.name, files.deckName(), static_cast<int>(all.size()));
+    command.tell(read.remarks, out.text);
     writeNodeHead(out.nodes);
     writeJointHead(out.joints);
     std::vector<plate::ContactState> before;

@@ -125,6 +125,7 @@ void solveDeck(const ResultFiles& files, const SolverCommand& command, const Opt
     for (int n = 1; n <= store.NPROB; ++n) timed = timed || isStationaryViscous(store.layered[n]);
     Output out(timed);
     writeHeading(out.text, files.deckName(), store.NPROB);
+    command.tell(read.remarks, out.text);
     for (int n = 1; n <= store.NPROB; ++n) solveDataSet(store.layered[n], n, options, out);
 
     command.writeTable("--csv", out.responseText.str());
