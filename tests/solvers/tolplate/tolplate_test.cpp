@@ -24,10 +24,8 @@ TEST(Tolplate, SinksAsARigidBodyInBothUnitSystems) {
         s.NUDL[1] = 1;
         s.AREA[1][1] = {1.0, 0.0, 240.0, 0.0, 180.0, QQ};
         s.NLAYER = 2;
-        s.LAYER[2] = s.LAYER[1];
-        s.LAYER[2].T = 5;
         s.LAYER[1].GAMA = GAMA1;
-        s.LAYER[2].GAMA = GAMA2;
+        s.LAYER[2] = {5, .15F, 4e6F, GAMA2};
         s.NWT = 1.0;
         s.SUBMOD = 1.0;
         s.NAS = 20.0;
@@ -172,6 +170,17 @@ TEST(Tolplate, SumsDamageOverPeriodsAndGroups) {
     s.LAYER[2].PMR = 100;
     const SolvedSlabs weak = solveSlabs(*store);
     EXPECT_LT(weak.plots.at(0).problem.DESLIFE, 1) << "the weaker layer ends the life";
+}
+
+TEST(Tolplate, ContinuesFromTheLastLoadGroup) {
+    const auto store = readExample("PAN2.DAT");
+    const auto corner = [&] { return rowsWhere(solveSlabs(*store).nodes, {{"set", 2}}).back().at("w"); };
+    const std::string alone = corner();
+    SlabSet& s = store->slab[1];
+    s.NLG = 2;
+    s.NUDL[1] = 1;
+    s.AREA[1][1] = store->slab[2].AREA[1][1];
+    EXPECT_EQ(corner(), alone);
 }
 
 TEST(Tolplate, TellsWhatPassedItsBounds) {

@@ -111,6 +111,22 @@ TEST(Nonlinear, LinearLimitsEqualTheLinearRun) {
     EXPECT_TRUE(linear.moduli.empty());
 }
 
+TEST(Nonlinear, EachPeriodHasItsRelaxation) {
+    const auto store = nonlinearStore();
+    LayeredSet& s = store->layered[1];
+    s.NOLAY = s.ITENOL = 1;
+    s.NPY = 2;
+    s.EMOD[2] = s.EMOD[1];
+    s.KPER[1][2] = s.KPER[1][1];
+    s.RELAX[2] = 1;  // half of it in the first
+    const Solved solved = solveStore(*store);
+    const auto change = [&](int period) {
+        const auto rows = rowsWhere(solved.moduli, {{"period", period}, {"layer", 1}});
+        return number(rows.at(1), "modulus") - number(rows.at(0), "modulus");
+    };
+    EXPECT_NEAR(change(2), 2 * change(1), 1e-6 * change(2));
+}
+
 TEST(Nonlinear, StressPointOnABoundaryBelongsToItsLayer) {
     const auto modulusAt = [](double z) {
         const auto store = nonlinearStore();

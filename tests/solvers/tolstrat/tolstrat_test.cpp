@@ -1,5 +1,6 @@
 // TOLSTRAT as its users meet it: a deck goes in, files and an exit status come out.
 #include <algorithm>
+#include <set>
 
 #include "solvers/layered_theory/reference.h"
 #include "solvers/tolstrat/run_tolstrat.h"
@@ -104,33 +105,25 @@ TEST(Tolstrat, MarksWhereTheCyclesEnded) {
     folder.write("road.DAT", withCard(example("BED1.DAT"), " (5) NL NZ ICL NSTD NUNIT", " 3  4  1  9  0 "));
     ASSERT_EQ(run({folder.path() + "road"}).status, SOLVED);
     EXPECT_THAT(folder.read("road.TXT"), HasSubstr("*** ICL = 1 cycles were reached"));
-    folder.write("road.DAT", example("BED1.DAT"));
-    ASSERT_EQ(run({folder.path() + "road"}).status, SOLVED);
-    EXPECT_THAT(folder.read("road.TXT"), Not(HasSubstr("***")));
 }
 
 TEST(Tolstrat, ComesOutTheSameOnAnyNumberOfThreads) {
-    std::string deck = HALF_SPACE_IN_LAYERS;
-    const std::string group = deck.substr(deck.find(" 0   (13) LOAD"));
-    deck = withCard(deck, " (3) MATL NDAMA NPY NLG", " 1  0  2  5 ");
-    for (int i = 0; i < 4; ++i) deck += group;
-    for (const std::string& each : {deck, example("BED3.DAT"), example("BED6.DAT")}) {
+    for (const char* deck : {"BED4.DAT", "BED5.DAT", "BED6.DAT"}) {  // periods, load groups, both
         const TemporaryDirectory folder;
         const std::string path = folder.path();
-        folder.write("road.DAT", each);
-        std::vector<std::string> outputs;
+        folder.write("road.DAT", example(deck));
+        std::set<std::string> outputs;
         for (const char* threads : {"1", "2", "7"}) {
             ASSERT_EQ(run({path + "road", "--quiet", "--threads", threads, "--csv", path + "r.csv",
                            "--csv-moduli", path + "m.csv"})
                           .status,
                       SOLVED);
-            EXPECT_TRUE(std::ranges::is_sorted(csvRows(folder.read("r.csv")), {},
-                                               [](const Row& row) { return number(row, "period"); }));
-            outputs.push_back(folder.read("road.TXT") + folder.read("road.BED") + folder.read("r.csv") +
-                              folder.read("m.csv"));
+            const std::string rows = folder.read("r.csv");
+            EXPECT_TRUE(
+                std::ranges::is_sorted(csvRows(rows), {}, [](const Row& r) { return r.at("period"); }));
+            outputs.insert(folder.read("road.TXT") + folder.read("road.BED") + rows + folder.read("m.csv"));
         }
-        EXPECT_EQ(outputs[0], outputs[1]);
-        EXPECT_EQ(outputs[0], outputs[2]);
+        EXPECT_EQ(outputs.size(), 1U);
     }
 }
 
