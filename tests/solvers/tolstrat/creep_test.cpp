@@ -71,13 +71,11 @@ TEST(Creep, StationaryHalfSpaceFollowsTheCompliance) {
 }
 
 TEST(Creep, MovingLoadOnAHalfSpaceAgreesWithTheConvolution) {
-    struct Case {
-        double duration, tau, tolerance;
-    };
     // The last two: a load too quick for any creep, and one so slow that all creep is over.
-    const Case cases[] = {
-        {.1, std::sqrt(.3), 1e-5}, {1, .4, 5e-3}, {1e-6, 1, 5e-3}, {1e6, std::sqrt(.3), 1e-5}};
-    for (const Case& test : cases) {
+    const struct {
+        double duration, tau, tolerance;
+    } cases[] = {{.1, std::sqrt(.3), 1e-5}, {1, .4, 5e-3}, {1e-6, 1, 5e-3}, {1e6, std::sqrt(.3), 1e-5}};
+    for (const auto& test : cases) {
         const ExponentialCreep creep{.tau = test.tau};
         const Solved solved = solveStore(*viscousHalfSpace(test.duration, HALF_DECADES, creep));
         ASSERT_EQ(solved.outcome.status, SOLVED) << solved.outcome.errors;
