@@ -65,7 +65,7 @@ TEST(ListReader, VariantTakesNumberOrText) {
 }
 
 TEST(ListReader, FailuresNameTheLineAndMoveNothing) {
-    ListReader in = ListReader::fromText("1\n2 40000 x\n");
+    ListReader in = ListReader::fromText("1\r\n2 40000 x\r\n");
     in.readInteger();
     in.readInteger();
     EXPECT_EQ(faultOf([&] { in.readInteger(); }), Fault::Overflow);

@@ -165,6 +165,7 @@ TEST_F(Editor, ChangesNoFileThatItCannotKeep) {
             "This file has line ends or characters that would not come back the same when the text is saved. "
             " It can be read, printed and copied, but not changed.");
         openNew("file", bytes);
+        EXPECT_TRUE(box().isReadOnly());
         type("x");
         click("mnuPast");
         box().selectAll();
@@ -198,6 +199,8 @@ TEST_F(Editor, WritesOverNoFileThatItDidNotRead) {
     }
     type("er");
     EXPECT_EQ(saved("road.dat"), "newer") << "its own file needs no question";
+    click("mnuExit");
+    EXPECT_FALSE(isOpen()) << "all is saved: no question";
 }
 
 TEST_F(Editor, SavesUnderAnotherNameAndTellsTheMainScreen) {

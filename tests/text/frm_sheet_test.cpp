@@ -62,6 +62,7 @@ TEST_F(Texts, EverySheetShowsAndPrintsItsFigureAndItsText) {
 
         choose(form, sheet.mnuPrintText.c_str());
         ASSERT_FALSE(printer.jobs.empty());
+        EXPECT_EQ(text.textValue(), textPage(sheet.page, "\r\n"));
         EXPECT_TRUE(printer.jobs[0].lines[5].ends_with(text.toPlainText().section('\n', 0, 0).toStdString()));
         choose(form, "mnuExit");
         EXPECT_EQ(screens.loaded(sheet.form), nullptr);

@@ -56,6 +56,8 @@ TEST(Manual, NumbersTheParagraphsOfHelpBoxes) {
 
 TEST(Manual, ShowsDecksInLinesThatFit) {
     for (const auto& [name, text] : embeddedPages()) {
+        EXPECT_EQ(textPage(name, "\n").find('\r'), std::string::npos) << name;
+        EXPECT_EQ(textPage(name, "\n").find("@include"), std::string::npos) << name;
         if (!isDeck(name)) continue;
         std::string shown;
         for (const std::string& line : linesOf(textPage(name, "\n"))) {

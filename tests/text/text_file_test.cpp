@@ -1,29 +1,11 @@
-// Which file the editor reads, and what it has printed when a printer fails.
+// What the editor has printed when a text cannot be printed whole.
 #include "text/text_file.h"
 
 #include <gtest/gtest.h>
 
 #include "support/recording_printer.h"
-#include "support/temporary_directory.h"
 
 namespace {
-
-TEST(NameToRead, FollowsTheFilterAndNotTheChosenExtension) {
-    const TemporaryDirectory folder;
-    folder.write("Road.TXT", "");
-    folder.write("Road.DAT", "");
-    folder.write("notes", "");
-    const std::tuple<const char*, int, const char*> cases[] = {
-        {"Road.DAT", 0, "Road.TXT"}, {"Road.TXT", 0, "Road.TXT"}, {"road.txt", 0, "Road.TXT"},
-        {"Road.TXT", 2, "Road.DAT"}, {"Road.DAT", 2, "Road.DAT"}, {"Road.DAT", 1, "Road.DAT"},
-        {"notes", 1, "notes"},       {"notes", 0, "notxt"},       {"NOTES", 1, "notes"},
-    };
-    for (const auto& [chosen, filter, read] : cases)
-        EXPECT_EQ(nameToRead(folder.path() + chosen, filter), folder.path() + read)
-            << chosen << ", filter " << filter;
-    EXPECT_EQ(nameToRead("Road.DAT", 1), std::nullopt) << "a bare name is not read";
-    EXPECT_EQ(nameToRead("/a", 1), std::nullopt) << "no room for an extension";
-}
 
 TEST(PrintText, KeepsThePagesThatWentOutBeforeAFailure) {
     RecordingPrinter printer;
