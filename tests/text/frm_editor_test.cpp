@@ -97,6 +97,9 @@ TEST_F(Editor, ReadsTheExtensionThatTheFilterSays) {
     EXPECT_EQ(dialogs.lastFileQuestion.name, path("road.TXT"));
     chooseFile("mnuOpen", FileAnswer{"share/road.DAT", allFiles});
     EXPECT_EQ(shown(), "results") << "a name that is not full is not read";
+    EXPECT_EQ(mainBox("cmbDataPath"), directory.path()) << "nor followed";
+    click("mnuExit");
+    EXPECT_FALSE(isOpen()) << "nothing changed: no question";
 }
 
 TEST_F(Editor, TakesTheMainScreenToTheDirectoryOfTheFile) {
