@@ -1,7 +1,6 @@
 // The forms behind the main menu of slab input: values, menus of the second level,
 // and the board of slabs.
 #include "support/slab_screens.h"
-#include "text/pages.h"
 
 namespace {
 
@@ -101,71 +100,62 @@ TEST_F(SlabForms, OnlyOneBoxOfTheDowelsIsEmptiedByAClick) {
     EXPECT_EQ(word("frmOptional", "lblDowel"), "done");
 }
 
-TEST_F(SlabForms, OptionalListsAskWhereTheirCountIsNotZero) {
+TEST_F(SlabForms, MenusOfTheSecondLevelSelectTheirTables) {
     const struct {
-        const char *menu, *label, *count;
+        const char *form, *control, *table, *selected;
         void (*set)(SlabSet& s);
-        const char* table;
     } rows[] = {
-        {"mnuNat1", "lblNat1", "NAT1", [](SlabSet& s) { s.NAT1 = 4; }, "212: 4 x 3"},
-        {"mnuNat2", "lblNat2", "NAT2", [](SlabSet& s) { s.NAT2 = 4; }, "213: 4 x 3"},
-        {"mnuNotcon", "lblNotcon", "NOTCON", [](SlabSet& s) { s.NOTCON = 4.0; }, "214: 4 x 2"},
-        {"mnuNprint", "lblNprint", "NPRINT", [](SlabSet& s) { s.NPRINT = 4; }, "215: 4 x 2"},
-        {"mnuNsx", "lblNsx", "NSX", [](SlabSet& s) { s.NSX = 4; }, "216: 4 x 2"},
-        {"mnuNsy", "lblNsy", "NSY", [](SlabSet& s) { s.NSY = 4; }, "217: 4 x 2"},
-        {"mnuNgap", "lblNgap", "NGAP", [](SlabSet& s) { s.NGAP = 4.0; }, "218: 4 x 3"},
+        {"frmOptional", "lblNat1", "frmspreadb", "212: 4 x 3", [](SlabSet& s) { s.NAT1 = 4; }},
+        {"frmOptional", "lblNat2", "frmspreadb", "213: 4 x 3", [](SlabSet& s) { s.NAT2 = 4; }},
+        {"frmOptional", "lblNotcon", "frmspreadb", "214: 4 x 2", [](SlabSet& s) { s.NOTCON = 4.0; }},
+        {"frmOptional", "lblNprint", "frmspreadb", "215: 4 x 2", [](SlabSet& s) { s.NPRINT = 4; }},
+        {"frmOptional", "lblNsx", "frmspreadb", "216: 4 x 2", [](SlabSet& s) { s.NSX = 4; }},
+        {"frmOptional", "lblNsy", "frmspreadb", "217: 4 x 2", [](SlabSet& s) { s.NSY = 4; }},
+        {"frmOptional", "lblNgap", "frmspreadb", "218: 4 x 3", [](SlabSet& s) { s.NGAP = 4.0; }},
+        {"frmSlabData", "mnuArrangement", "frmSpread2", "203: 1 x 3", [](SlabSet&) {}},
+        {"frmSlabData", "lblArrange", "frmSpread2", "203: 2 x 7", [](SlabSet& s) { s.NSLAB = 2; }},
+        {"frmSlabData", "mnuProperties", "frmSpread3", "208: 1 x 4", [](SlabSet&) {}},
+        {"frmSlabData", "lblProperties", "frmSpread3", "208: 2 x 5",
+         [](SlabSet& s) { s.NLAYER = 2, s.NWT = 1; }},
+        {"frmDamage", "mnuFatigue", "frmSpread3", "205: 1 x 2", [](SlabSet& s) { s.NDAMA = 1; }},
+        {"frmDamage", "lblFatigue", "frmSpread3", "205: 2 x 4", [](SlabSet& s) { s.NDAMA = s.NLAYER = 2; }},
     };
-    Form* form = &load("frmOptional");
-    EXPECT_EQ(form->caption(), "Other Optional Information for Data Set No.  1");
     for (const auto& row : rows) {
-        EXPECT_EQ(word("frmOptional", row.label), "default");
-        dialogs.expectBox("You don't have to click this menu because " + std::string(row.count) + " = 0");
-        click(*form, row.menu);
-    }
-    dialogs.expectBox("You don't have to click this menu because NJOINT = 0");
-    click(*form, "lblDowel");
-    EXPECT_TRUE(dialogs.finished());
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.menu);
-        screens.unload("frmOptional");
+        SCOPED_TRACE(row.selected);
+        screens.unload(row.form);
         set = singleSlabStore()->slab[1];
         row.set(set);
-        form = &load("frmOptional");
-        EXPECT_EQ(word("frmOptional", row.label), "input!");
+        Form& form = load(row.form);
+        const bool isList = form.name() == "frmOptional";
+        EXPECT_EQ(isList ? word("frmOptional", row.control) : "input!", "input!");
         store.CurSlabDS = 2;  // chosen on the main menu meanwhile: this form stays with its own
-        click(*form, row.label);
+        click(form, row.control);
         EXPECT_EQ(store.CurSlabDS, 1);
-        EXPECT_EQ(opened("frmspreadb"), row.table);
+        EXPECT_EQ(opened(row.table), row.selected);
     }
-    set.NJOINT = 1;
-    click(*form, "mnuDowel");
-    EXPECT_TRUE(isOpen("frmDowel"));
-    click(*form, "cmdOk");
-    EXPECT_EQ(lbl("lblOptional"), "done");
 }
 
-TEST_F(SlabForms, SlabDataTakesItsTablesShapeFromTheLeft) {
-    Form& form = load("frmSlabData");
-    EXPECT_EQ(form.caption(), "Slab Information for Data Set No 1");
-    const struct {
-        Integer NSLAB, NLAYER;
-        Variant NWT;
-        const char *menu, *form, *table;
-    } rows[] = {
-        {1, 1, 0, "mnuArrangement", "frmSpread2", "203: 1 x 3"},
-        {2, 1, 0, "lblArrange", "frmSpread2", "203: 2 x 7"},
-        {2, 1, 0, "mnuProperties", "frmSpread3", "208: 1 x 4"},
-        {2, 2, 1.0, "lblProperties", "frmSpread3", "208: 2 x 5"},
-    };
-    for (const auto& row : rows) {
-        set.NSLAB = row.NSLAB;
-        set.NLAYER = row.NLAYER;
-        set.NWT = row.NWT;
-        click(form, row.menu);
-        EXPECT_EQ(opened(row.form), row.table);
+TEST_F(SlabForms, OptionalMenusRefuseWhereTheirCountIsZero) {
+    Form& form = load("frmOptional");
+    EXPECT_EQ(form.caption(), "Other Optional Information for Data Set No.  1");
+    for (const auto& [label, count] : {std::pair("lblNat1", "NAT1"),
+                                       {"lblNat2", "NAT2"},
+                                       {"lblNotcon", "NOTCON"},
+                                       {"lblNprint", "NPRINT"},
+                                       {"lblNsx", "NSX"},
+                                       {"lblNsy", "NSY"},
+                                       {"lblNgap", "NGAP"},
+                                       {"lblDowel", "NJOINT"}}) {
+        EXPECT_EQ(word("frmOptional", label), "default");
+        dialogs.expectBox("You don't have to click this menu because " + std::string(count) + " = 0");
+        click(form, label);
+        EXPECT_TRUE(dialogs.finished());
     }
-    click(form, "cmdOK");
-    EXPECT_EQ(lbl("lblSlab"), "done!");
+    set.NJOINT = 1;
+    click(form, "mnuDowel");
+    EXPECT_TRUE(isOpen("frmDowel"));
+    click(form, "cmdOk");
+    EXPECT_EQ(lbl("lblOptional"), "done");
 }
 
 TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
@@ -173,6 +163,7 @@ TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
     set.SLAB[2].NX = 4;
     set.SLAB[2].NY = 5;
     Form& data = load("frmSlabData");
+    EXPECT_EQ(data.caption(), "Slab Information for Data Set No 1");
     click(data, "mnuXcoordinate");
     Form* board = screens.loaded("frmSlabs");
     ASSERT_NE(board, nullptr);
@@ -197,25 +188,21 @@ TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
     EXPECT_EQ(word("frmSlabData", "lblYcoord") + word("frmSlabData", "lblXcoord"), "done!input!");
     click(data, "mnuXcoordinate");
     EXPECT_EQ(word("frmSlabs", "lblSlab2"), "Input!") << "anew at every opening";
+    click(data, "cmdOK");
+    EXPECT_EQ(lbl("lblSlab"), "done!");
 }
 
-TEST_F(SlabForms, DamageAsksForWhatItsCriterionNeeds) {
+TEST_F(SlabForms, DamageLeadsToTheTrafficOfEachPeriod) {
     set.NDAMA = 1;
     set.NPY = 3;
     Form& form = load("frmDamage");
     EXPECT_EQ(form.caption(), "Damage Analysis for Data Set N0. 1");
-    click(form, "mnuFatigue");
-    EXPECT_EQ(opened("frmSpread3"), "205: 1 x 2");
-    set.NDAMA = set.NLAYER = 2;
-    click(form, "lblFatigue");
-    EXPECT_EQ(opened("frmSpread3"), "205: 2 x 4");
     click(form, "mnuVolume");
-    Form* board = screens.loaded("frmPeriod");
-    ASSERT_NE(board, nullptr);
-    click(*board, "cmdPeriod3");
+    Form& board = load("frmPeriod");
+    click(board, "cmdPeriod3");
     EXPECT_EQ(opened("frmspreadb"), "225: 1 x 2");
     EXPECT_EQ(store.CurPeriod, 3);
-    click(*board, "cmdOk");
+    click(board, "cmdOk");
     EXPECT_EQ(word("frmDamage", "lblVolume"), "done!");
     click(form, "cmdOk");
     EXPECT_EQ(lbl("lblDamage"), "done");

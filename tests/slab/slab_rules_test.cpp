@@ -144,6 +144,7 @@ TEST(SlabErrCheck, TellsTheFirstThingThatIsMissing) {
     store->slab[1] = singleSlabStore()->slab[1];
     store->slab[1].NJOINT = 1;
     store->slab[1].JOINT[1].SPCON1 = "100";
+    store->slab[1].NSX = store->slab[1].NODSX[1] = 1;
     EXPECT_TRUE(ErrCheck(*store).empty()) << "a spring is as good as a bar";
 }
 
@@ -200,44 +201,39 @@ TEST(SlabArrangement, NoDowelAtTheEndOfAJointAndThreeNodesForDamage) {
     s.SLAB[1].JONO2 = s.SLAB[2].JONO1 = 1;  // the first slab that names it decides
     s.SLAB[2].JONO4 = s.SLAB[3].JONO3 = 2;
     s.SLAB[3].JONO2 = 4;  // nobody names joint 3
-    const auto ends = [&] {
-        std::string text;
-        for (int joint = 1; joint <= 4; ++joint) {
-            for (int node = 2; node <= 15; ++node)
-                if (s.JOINT[joint].BARNO[node] == Variant(0))
-                    text += std::to_string(joint) + ":" + std::to_string(node) + " ";
-        }
-        return text;
-    };
+    std::string ends;
     setArrangementDefaults(s);
-    EXPECT_EQ(ends(), "1:7 2:5 4:9 ");
-    EXPECT_EQ(s.NP[1], 0);
-    s.NDAMA = 1;
-    setArrangementDefaults(s);
-    EXPECT_EQ(s.NP[1], 0) << "with the PCA criteria only where three nodes are printed";
-    s.NPRINT = 3;
-    setArrangementDefaults(s);
-    EXPECT_EQ(s.NP[2], 15);
-    s.NDAMA = 2;
-    s.NPRINT = 0;
-    s.SLAB[1].NY = 9;
-    setArrangementDefaults(s);
-    EXPECT_EQ(s.NP[1], 1);
-    EXPECT_EQ(s.NP[2], 19);
-    EXPECT_EQ(s.NP[3], 37);
+    for (int joint = 1; joint <= 4; ++joint)
+        for (int node = 2; node <= 15; ++node)
+            if (s.JOINT[joint].BARNO[node] == Variant(0))
+                ends += std::to_string(joint) + ":" + std::to_string(node) + " ";
+    EXPECT_EQ(ends, "1:7 2:5 4:9 ");
+    const struct {
+        Integer NDAMA, NPRINT;
+        const char* nodes;
+    } rows[] = {{0, 3, "0 0 0"}, {1, 2, "0 0 0"}, {1, 3, "1 15 29"}, {2, 0, "1 15 29"}};
+    for (const auto& row : rows) {
+        s.NP = {};
+        s.NDAMA = row.NDAMA;
+        s.NPRINT = row.NPRINT;
+        setArrangementDefaults(s);
+        EXPECT_EQ(numberText(s.NP[1]) + " " + numberText(s.NP[2]) + " " + numberText(s.NP[3]), row.nodes);
+    }
 }
 
 TEST(SlabRaft, MayMoveMore) {
-    SlabSet s;
-    s.FMAX = 1;
-    setRaftDefault(s);
-    EXPECT_EQ(s.FMAX, Variant(1)) << "no concentrated load, no raft";
-    s.NNMX = 1;
-    setRaftDefault(s);
-    EXPECT_EQ(s.FMAX, Variant(10));
-    s.NUNIT = 1;
-    setRaftDefault(s);
-    EXPECT_EQ(s.FMAX, Variant(25.4));
+    const struct {
+        Integer NNMX, NUNIT;
+        Double FMAX;
+    } rows[] = {{0, 0, 1}, {1, 0, 10}, {1, 1, 25.4}};  // no concentrated load, no raft
+    for (const auto& row : rows) {
+        SlabSet s;
+        s.FMAX = 1;
+        s.NNMX = row.NNMX;
+        s.NUNIT = row.NUNIT;
+        setRaftDefault(s);
+        EXPECT_EQ(s.FMAX, Variant(row.FMAX));
+    }
 }
 
 }  // namespace
