@@ -23,7 +23,8 @@ AxisymmetricResponse solveAt(const Structure& structure, double r, double z, dou
 void closedForms() {
     head("Closed forms",
          "A circle of radius 6 in. under 100 psi on a half-space, E = 10000 psi, PR = .3, entered as three "
-         "equal layers of 2 in., 3 in. and infinite thickness, so that the whole machinery works.");
+         "equal layers of 2 in., 3 in. and infinite thickness, so that the whole machinery works.",
+         1e-9);
     const double E = 10000, nu = .3;
     const Structure layers{{{2, E, nu}, {3, E, nu}, {0, E, nu}}, {}};
     for (double z : {2., 6., 30.}) {
@@ -47,7 +48,8 @@ void closedForms() {
 void publishedTables() {
     head("Published tables",
          "Pressure on the interface below the centre of the load, two layers, PR = .5, thickness = radius, "
-         "as a share of the contact pressure. The source has three digits.");
+         "as a share of the contact pressure. The source has three digits.",
+         1e-3);
     for (const auto& [ratio, pressure] : {std::pair(1., .646), {10., .292}, {100., .081}})
         row(printed("E1/E2 = %g", ratio), "Fox 1948", pressure,
             solveAt({{{a, ratio, .5}, {0, 1, .5}}, {}}, 0, a).szz / q, 1, "%.3f");
@@ -57,7 +59,8 @@ void secondCalculation() {
     head("A second calculation",
          "The same responses by another route: impedances of the layers from matrix exponentials in extended "
          "precision and a brute quadrature. The quantity shown is the radial strain at the place named; the "
-         "error is relative to the largest strain there.");
+         "error is relative to the largest strain there.",
+         1e-6);
     const Structure road{{{6, 4e5, .35}, {8, 3e4, .3}, {0, 8e3, .45}}, {}},
         stiffOverSoft{{{6, 1e6, .3}, {0, 1e3, .4}}, {}}, softOverStiff{{{6, 1e3, .5}, {0, 1e6, .2}}, {}},
         twoLayers{{{6, 4e5, .35}, {0, 8e3, .45}}, {}},
@@ -92,7 +95,8 @@ void viscoelasticHalfSpace() {
     head("Viscoelastic half-space",
          "Deflection at the centre of a load of 50 psi on a circle of 6 in., PR = .3, of the compliance D(t) "
          "= 1e-6 + 9e-6 (1 - exp(-t/T)) per psi, given with seven digits at 11 times from .001 to 100 sec. "
-         "The first T is one of the series, the other two show what collocation leaves.");
+         "The first T is one of the series, the other two show what collocation leaves.",
+         1e-3);
     const auto deflections = [&](double duration, const ExponentialCreep& creep) {
         const auto store = viscousHalfSpace(duration, HALF_DECADES, creep);
         const LayeredSet& set = store->layered[1];
@@ -119,7 +123,8 @@ void viscoelasticHalfSpace() {
 void nonlinearLayer() {
     head("Nonlinear layer",
          "Modulus in psi of a granular layer of 12 in. on a linear subgrade, where E = K1 theta^K2 meets "
-         "theta of E, DELNOL = 1e-10. PHI = 0 allows no tension.");
+         "theta of E, DELNOL = 1e-10. PHI = 0 allows no tension.",
+         1e-9);
     const auto store = nonlinearStore();
     LayeredSet& set = store->layered[1];
     set.NOLAY = 1, set.ITENOL = 200, set.DELNOL = 1e-10;

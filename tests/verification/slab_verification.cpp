@@ -42,7 +42,8 @@ void rigidBodies() {
          "120 x 80 in., 10 in. of 4e6 psi, on a liquid foundation of 100 pci. The even pressure comes as "
          "three loaded areas that cut the unequal elements; stress as a share of 100 times the pressure. The "
          "stiff slab, 4e12 psi, carries 1000 lb 36 in. right of and 20 in. below its centre; error relative "
-         "to the mean w.");
+         "to the mean w.",
+         1e-6);
     Problem weight = oneSlab({0, 5, 40, 41, 90, 120}, {0, 30, 33, 80}), even = weight;
     weight.NWT = true;
     even.groups = {{{1, 0, 57.3, 0, 80, 2}, {1, 57.3, 120, 0, 11.1, 2}, {1, 57.3, 120, 11.1, 80, 2}}};
@@ -97,7 +98,8 @@ void elements() {
          "Patch of unequal elements under constant curvature. Free curl: 60 x 48 in. on next to no support, "
          "stress as a share of E CT TEMP. Convergence: a quarter-loaded slab of 96 x 72 in. between four "
          "axes of symmetry, at x = 24, y = 18 in., on n x n elements; the order is that of the step from 16 "
-         "to 32.");
+         "to 32.",
+         .1);
     nothing("force inside the patch", "patch test", forceInsidePatch());
     Problem curl = oneSlab({0, 13, 50, 60}, {0, 22, 30, 48});
     curl.TEMP = 30, curl.CT = 5e-6;
@@ -126,7 +128,8 @@ void elements() {
 void largeSlabs() {
     head("Slabs: large slabs against Hankel integrals",
          "100 psi on 20 x 20 in. in the middle; a quarter of the slab on a graded grid, 10 in. of 4e6 psi, "
-         "PR = .15. Liquid: 100 pci, 600 in. square. Solid: E = 10000 psi, PR = .4, 800 in. square.");
+         "PR = .15. Liquid: 100 pci, 600 in. square. Solid: E = 10000 psi, PR = .4, 800 in. square.",
+         1e-2);
     const std::vector<LoadedArea> wheel{{1, 0, 10, 0, 10, 100}};
     const Problem liquid = quarterSlab(graded(300, 32, 1.09), graded(300, 32, 1.09), wheel);
     Problem solid = quarterSlab(graded(400, 22, 1.13), graded(400, 22, 1.13), wheel);
@@ -149,7 +152,8 @@ void wheels() {
     head("Slabs: Westergaard",
          "10000 lb on 16 x 16 in., 10 in. of 4e6 psi, PR = .15, 100 pci, 600 in. square. The formulas are "
          "approximations for a circle, at the corner a fit by Ioannides, Thompson and Barenberg (1985): the "
-         "differences are theirs, too.");
+         "differences are theirs, too.",
+         .1);
     const double side = 16, P = 10000, q = P / side / side;
     const auto grid = graded(300, 26, 1.08);
     const Problem interior = quarterSlab(grid, grid, {{1, 0, side / 2, 0, side / 2, q}}),
@@ -170,7 +174,8 @@ void wheels() {
 void curling() {
     head("Slabs: curling",
          "Bottom 20 degrees warmer than the top, CT = 5e-6, full contact, 100 pci. The strip is 150 in. "
-         "wide.");
+         "wide.",
+         1e-3);
     const double full = 4e6 * 5e-6 * 20 / (2 * .85);
     Problem wide = quarterSlab(graded(500, 20, 1.05), graded(500, 20, 1.05));
     Problem strip = quarterSlab(lines(20, 2), lines(75, 50));
@@ -187,7 +192,8 @@ void wholeAndParts() {
     head("Slabs: the same problem in two ways",
          "The expected value is another run's. A quarter between two axes of symmetry and the whole slab; "
          "one slab and two with a rigid joint; two with a free joint and one alone; layers of equal "
-         "constants and a half-space.");
+         "constants and a half-space.",
+         1e-6);
     for (const auto& [kind, name] : foundations) {
         Problem full = oneSlab({0, 10, 25, 60, 95, 110, 120}, {0, 20, 48, 76, 96}, {{1, 50, 70, 40, 56, 80}});
         if (kind == Layer) full.foundation = plate::layered(5e4, 1e4);
@@ -223,7 +229,8 @@ void wholeAndParts() {
 void twoLayers() {
     head("Slabs: two layers",
          "6 in. on 4 in., liquid foundation: ratios at the node below the load. Bonded: modulus times "
-         "distance from the neutral axis; unbonded: modulus times thickness.");
+         "distance from the neutral axis; unbonded: modulus times thickness.",
+         1e-9);
     const Problem one = oneSlab(lines(120, 8), lines(96, 6), {{1, 10, 30, 0, 20, 80}});
     Problem p = one;
     p.layers = {{6, .15, 4e6, 0}, {4, .15, 4e6, 0}};
@@ -248,7 +255,8 @@ void reciprocity() {
     head("Slabs: reciprocity",
          "Four slabs of unequal spans with springs and dowels in both directions: deflection in the fourth "
          "slab under a force of 1000 lb in the first, and the other way round; rotations likewise under "
-         "moments.");
+         "moments.",
+         1e-9);
     for (const auto& [kind, name] : foundations) {
         Problem p = unequalSlabs();
         p.foundation.kind = kind;
@@ -265,7 +273,8 @@ void reciprocity() {
 void contact() {
     head("Slabs: contact",
          "180 x 144 in. with weight, bottom 30 degrees warmer than the top, a gap of .05 in. under the nodes "
-         "of the loaded corner, 40 psi on 30 x 30 in. there: what carries it, and the worst of all nodes.");
+         "of the loaded corner, 40 psi on 30 x 30 in. there: what carries it, and the worst of all nodes.",
+         1e-9);
     for (const auto& [kind, name] : {foundations[0], foundations[1]}) {
         Problem p = curled(kind);
         p.groups = {{{1, 0, 30, 0, 30, 40}}};
