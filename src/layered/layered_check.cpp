@@ -82,8 +82,10 @@ const ValueRule<Set> rules[] = {
     {7, "PR", HOLDS(x > -1 && x <= .5), "Poisson's ratio must be above -1 and at most .5"},
     {8, "ZC", HOLDS(x >= 0), "the depth must not be negative"},
     {10, "INT", HOLDS(x == 0 || x == 1), "INT must be 0 or 1"},
+    {11, "E", HOLDS(s.MATL != 1 || x > 0), "the modulus must be greater than 0"},
     {11, "E", HOLDS(x > 0 || isViscoelastic(s, at.k) || (x == 0 && isNonlinear(s, at.k))),
-     "the modulus must be greater than 0"},
+     "the modulus must be greater than 0; 0 is for nonlinear and viscoelastic layers only, cards (26) and "
+     "(37)"},
     {11, "E", HOLDS(x <= LARGEST_MODULUS || isViscoelastic(s, at.k)), "the modulus must be below 2147483648"},
     {13, "LOAD", HOLDS(isWhole(x, 0, 3)), "LOAD must be 0, 1, 2 or 3"},
     {14, "CR", HOLDS(x > 0), "the contact radius must be greater than 0"},
@@ -133,6 +135,8 @@ const ValueRule<Set> rules[] = {
 
     {46, "NLBT", HOLDS(isWhole(x, 0, 19)), "there must be 0 to 19 layer bottoms"},
     {46, "NLTC", HOLDS(isWhole(x, 0, 19)), "there must be 0 to 19 layer tops"},
+    {46, "NLTC", HOLDS(x > 0 || s.NLBT > 0),
+     "a damage analysis needs a location, so NLBT or NLTC must be 1 or more"},
     {47, "LNBT", HOLDS(isWhole(x, 1, s.NL - 1)),
      "there is no such layer, or it is the last one, which has no bottom"},
     {48, "LNTC", HOLDS(isWhole(x, 1, s.NL)), "there is no such layer"},

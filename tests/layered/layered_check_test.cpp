@@ -92,6 +92,7 @@ TEST(LayeredCheck, LooksOnlyAtWhatTheDeckUses) {
 
     s.NDAMA = 1;
     s.NZ = 40;
+    s.NLTC = 1, s.DAMTC[1] = {3, 1.365e-9F, 4.477F};
     EXPECT_EQ(sentenceOf(*store), "") << "damage has depths of its own";
 
     const auto two = threeLayerStore();
@@ -140,6 +141,8 @@ TEST(LayeredCheck, KnowsNonlinearLayers) {
                          {[](LayeredSet& s) { s.KPER[2][1][2] = 500; }, "EMAX(1, 2) is 500, card (33)"}});
     good->layered[1].NOLLAY[2].ZCNOL = 12;
     EXPECT_EQ(sentenceOf(*good), "") << "a boundary belongs to both layers";
+    good->layered[1].NOLAY = 1;
+    EXPECT_TRUE(sentenceOf(*good).ends_with("cards (26) and (37)")) << "the modulus 0 of layer 2";
 }
 
 TEST(LayeredCheck, KnowsViscoelasticLayersAndDamage) {
@@ -164,6 +167,7 @@ TEST(LayeredCheck, KnowsViscoelasticLayersAndDamage) {
 
     expectFaults(*damageStore(), {{[](LayeredSet& s) { s.LOADL[1].NR = 0; }, "NR(1) is 0, card (16)"},
                                   {[](LayeredSet& s) { s.NLBT = 20; }, "NLBT is 20, card (46)"},
+                                  {[](LayeredSet& s) { s.NLBT = s.NLTC = 0; }, "NLTC is 0, card (46)"},
                                   {[](LayeredSet& s) { s.DAMBT[1].LNBT = 3; }, "LNBT(1) is 3, card (47)"},
                                   {[](LayeredSet& s) { s.DAMTC[1].LNTC = 4; }, "LNTC(1) is 4, card (48)"},
                                   {[](LayeredSet& s) { s.TNLR[1][1] = -1; }, "TNLR(1, 1) is -1, card (49)"},

@@ -1,6 +1,9 @@
 #include "solvers/tolstrat/damage_report.h"
 
+#include <algorithm>
+
 #include "solvers/report_lines.h"
+#include "solvers/tolstrat/loads.h"
 #include "solvers/tolstrat/units.h"
 
 namespace {
@@ -40,6 +43,14 @@ void writeDamageEcho(std::ostream& out, const LayeredSet& set) {
     for (int period = 1; period <= count(set.NPY); ++period)
         row(out, printed("Repetitions TNLR of period %d", period), 1, count(set.NLG),
             [&](int group) { return set.TNLR[period][group]; });
+    for (int group = 1; group <= count(set.NLG); ++group) {
+        const auto isBetween = [&](const auto& point) { return isBetweenAxles(set, group, point); };
+        if (damagesByAxles(set, group) && std::ranges::all_of(pointsOf(set, group), isBetween))
+            line(out,
+                 printed("  *** Warning: all points of load group %d are at x = XW/2, between its axles, and "
+                         "count as under one: the damage may be far too small. Add points under an axle. ***",
+                         group));
+    }
 }
 
 void writeDamageDetail(std::ostream& out, const LayeredSet& set, const GroupResult& result) {

@@ -8,6 +8,9 @@
 
 namespace {
 
+/// A series that strays from the compliances by more than this is no longer theirs.
+constexpr double DOUBTFUL_ERROR = 0.1;
+
 bool isClay(const LayeredSet& set, int n) { return set.NOLLAY[n].NCLAY.number() != 0; }
 
 void writeNonlinearEcho(std::ostream& out, const LayeredSet& set, const Units& units) {
@@ -44,7 +47,8 @@ void writeNonlinearEcho(std::ostream& out, const LayeredSet& set, const Units& u
         } else {
             item(out, "  Exponent K2", set.KGRAN[n].K2.number());
             item(out, "  Earth pressure at rest K0", set.KGRAN[n].K0.number());
-            seasonal("PHI", 1, "degrees");
+            row(out, "  PHI, degrees; above 90 the least modulus", 1, periods,
+                [&](int p) { return set.KPER[n][p][1].number(); });
             seasonal("K1", 2, units.stress);
         }
     }
@@ -62,18 +66,29 @@ void writeSeries(std::ostream& out, const ViscousLayer& layer) {
     item(out, "  Constant C", series.constant);
     item(out, "  Largest error between times, %", 100 * layer.largestError,
          "against straight lines in log-log scales");
+    if (layer.largestError > DOUBTFUL_ERROR)
+        line(out,
+             "    *** Warning: between the times the series strays from the compliances, so that results are "
+             "doubtful. Give times a factor of 2 or more apart and compliances that grow. ***");
 }
 
-/// Where the temperature of a period takes a layer's times beyond those given.
-void writeShifts(std::ostream& out, const Viscoelasticity& creep, const ViscousLayer& layer) {
+/// The shift factors of a layer, and where they take the times that its results depend on beyond those given.
+/// A stationary load has results at all times. At the peak of a moving load half of the load is younger than
+/// DUR/4 and all of it than DUR/2. For power laws the error of the superposed compliance is some per cent
+/// where DUR/4 falls before the first time or DUR/2 behind the last, and grows from there on.
+void writeShifts(std::ostream& out, const LayeredSet& set, const Viscoelasticity& creep,
+                 const ViscousLayer& layer) {
+    const double first = creep.moving() ? set.DUR.number() / 4 : creep.times.front();
+    const double last = creep.moving() ? set.DUR.number() / 2 : creep.times.back();
     for (int period = 1; period <= static_cast<int>(layer.shift.size()); ++period) {
         const double a = layer.shift[static_cast<std::size_t>(period - 1)];
-        if (a == 1) continue;
-        line(out, printed("    Period %d: log10 of the shift factor %.7g", period, std::log10(a)));
+        if (a != 1)
+            line(out, printed("    Period %d: log10 of the shift factor %.7g", period, std::log10(a)));
+        if (a * first >= creep.times.front() && a * last <= creep.times.back()) continue;
         line(out,
-             printed("    *** Warning: the times there count as %.4g to %.4g sec, which leaves the times "
+             printed("    *** Warning: in period %d %s count as %.4g to %.4g sec, which leaves the times "
                      "given; beyond them D is that of the series. ***",
-                     a * creep.times.front(), a * creep.times.back()));
+                     period, creep.moving() ? "DUR/4 to DUR/2" : "the times", a * first, a * last));
     }
 }
 
@@ -107,7 +122,7 @@ void writeViscousEcho(std::ostream& out, const LayeredSet& set, const Viscoelast
             continue;
         }
         writeSeries(out, layer);
-        writeShifts(out, creep, layer);
+        writeShifts(out, set, creep, layer);
     }
 }
 

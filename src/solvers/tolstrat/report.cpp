@@ -78,7 +78,7 @@ constexpr std::array<Block, 2> BLOCKS = {
 
 std::string placeText(const GroupResult& group, std::size_t point, std::size_t depth) {
     const auto& at = group.points[point];
-    return printed(" %4zu %10.5g %10.5g %10.6g", point + 1, at.x, at.y, group.depths[depth].z);
+    return printed(" %4zu %10.5g %10.5g %10.7g", point + 1, at.x, at.y, group.depths[depth].z);
 }
 
 constexpr const char* PLACE_HEAD = "   Pt          x          y          z";
@@ -188,9 +188,8 @@ void writePlotNotes(std::ostream& out, const LayeredSet& set) {
         if (set.LOADL[group].LOAD.number() == 0 && set.LOADL[group].NR.number() > BedProblem::RADIAL_POINTS) {
             line(out);
             line(out,
-                 printed(
-                     "Note: load group %d has more than %d radial coordinates, which the plot cannot show.",
-                     group, BedProblem::RADIAL_POINTS));
+                 printed("Note: load group %d has more than %d radial coordinates, with which BEDPLOT stops.",
+                         group, BedProblem::RADIAL_POINTS));
         }
     }
     if (!fitsPlotFile(set)) {

@@ -16,11 +16,15 @@ double weightedSum(const std::vector<double>& values, const std::vector<double>&
 
 /// A series may leave what was given on its way beyond the times, and between them when the compliances are
 /// not those of a material.
-void requireCompliance(double D, const DeckPlace& where, const Variant& value, const std::string& when) {
+void requireCompliance(double D, const LayeredSet& set, int number, int n, int period,
+                       const std::string& when) {
     if (D > 0 && std::isfinite(D)) return;
     throw std::runtime_error(
-        where.text(numberText(value)) + ": the series through the creep compliances gives " +
-        numberText(static_cast<Single>(D)) + " " + when + ", but a compliance must be greater than 0");
+        DeckPlace{number, 42, "CREEP", {n}}.text() + ": for " +
+        DeckPlace{0, 0, "TEMP", {period, 0, n}}.fieldText() + " = " + numberText(set.TEMP[period][n]) +
+        " the series through the compliances gives " + numberText(static_cast<Single>(D)) + " " + when +
+        ", but a compliance must be greater than 0; are the times a factor of 2 or more apart and the "
+        "compliances growing?");
 }
 
 /// Compliances of layer n in one period.
@@ -31,8 +35,8 @@ std::vector<double> shifted(const LayeredSet& set, int number, const Viscoelasti
     std::vector<double> compliances;
     for (const double t : creep.times) {
         compliances.push_back(layer.series.at(a * t));
-        requireCompliance(compliances.back(), {number, 44, "TEMP", {period, 0, n}}, set.TEMP[period][n],
-                          "at " + numberText(static_cast<Single>(t)) + " sec there");
+        requireCompliance(compliances.back(), set, number, n, period,
+                          "at " + numberText(static_cast<Single>(t)) + " sec");
     }
     return compliances;
 }
@@ -80,9 +84,8 @@ Viscoelasticity viscoelasticity(const LayeredSet& set, int number) {
             layer.shift.push_back(std::pow(10, set.VISLAY[n].BETA.number() * warmer));
             layer.compliances.push_back(shifted(set, number, creep, layer, n, period));
             if (creep.moving())
-                requireCompliance(weightedSum(layer.compliances.back(), creep.weights),
-                                  {number, 44, "TEMP", {period, 0, n}}, set.TEMP[period][n],
-                                  "at the peak of the load");
+                requireCompliance(weightedSum(layer.compliances.back(), creep.weights), set, number, n,
+                                  period, "at the peak of the load");
         }
         creep.layers.push_back(std::move(layer));
     }

@@ -106,11 +106,29 @@ TEST(Creep, SaysWhatASeriesCannotDo) {
     store->layered[1].TEMP[1][2] = -60.0;
     const Solved solved = solveStore(*store);
     EXPECT_EQ(solved.outcome.status, BAD_DECK);
-    EXPECT_THAT(solved.outcome.errors, HasSubstr("card (44), data set 1")) << solved.outcome.errors;
+    EXPECT_THAT(solved.outcome.errors,
+                HasSubstr("CREEP(1), card (42), data set 1: for TEMP(1, 1) = 70 the series"));
 
     const Solved close = solveStore(*viscousHalfSpace(.1, {.01, .1, .1000001, 1}, {}));
     EXPECT_EQ(close.outcome.status, SOLVED);
     EXPECT_THAT(close.text, HasSubstr("lie too close together"));
+
+    const auto bumpy = viscousHalfSpace(.1, HALF_DECADES, {});
+    EXPECT_THAT(solveStore(*bumpy).text, Not(HasSubstr("results are doubtful")));
+    bumpy->layered[1].CREEP[1][4] *= 3;
+    EXPECT_THAT(solveStore(*bumpy).text, HasSubstr("results are doubtful"));
+}
+
+TEST(Creep, WarnsOfAMovingLoadOnlyWhereItLeavesTheTimes) {
+    // BETA is .1 per degree: DUR/4 = .025 sec counts as .001 sec at 56 F, DUR/2 as 100 sec at 103 F.
+    for (const auto& [temperature, warns] :
+         {std::pair{55.9, true}, {56.1, false}, {70., false}, {102.9, false}, {103.1, true}}) {
+        const auto store = viscousHalfSpace(.1, HALF_DECADES, {});
+        store->layered[1].TEMP[1][1] = temperature;
+        const std::string text = solveStore(*store).text;
+        EXPECT_EQ(text.find("in period 1 DUR/4 to DUR/2 count as") != std::string::npos, warns)
+            << temperature;
+    }
 }
 
 }  // namespace

@@ -110,6 +110,9 @@ TEST(Damage, PrimaryStrainIsUnderAnAxleSecondaryWhatItExceedsTheMiddleBy) {
     s.PT[1][1] = {8, 0};
     const Solved onlyMiddle = solveStore(*store);
     EXPECT_EQ(number(onlyMiddle.damage.at(2), "strain"), vertical(8, 0)) << "there is no other point";
+    const std::string warning = "all points of load group 1 are at x = XW/2";
+    EXPECT_NE(onlyMiddle.text.find(warning), std::string::npos);
+    EXPECT_EQ(listed.text.find(warning), std::string::npos);
 }
 
 TEST(Damage, OfAStationaryLoadIsThatAtTheLastTime) {
