@@ -3,7 +3,7 @@
 #include "layered/layered_deck.h"
 #include "layered/layered_rules.h"
 #include "roads/road.h"
-#include "support/solver_runs.h"
+#include "support/example_files.h"
 #include "support/text_change.h"
 
 namespace {

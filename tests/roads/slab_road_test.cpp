@@ -2,7 +2,7 @@
 // what none of them has.
 #include "roads/road.h"
 #include "slab/slab_deck.h"
-#include "support/solver_runs.h"
+#include "support/example_files.h"
 
 namespace {
 
