@@ -88,7 +88,8 @@ TEST(LayeredCheck, LooksOnlyAtWhatTheDeckUses) {
 
 TEST(LayeredCheck, KnowsNonlinearLayers) {
     const auto good = nonlinearStore();
-    good->layered[1].EMOD[1][2] = 0;  // starts from K1
+    good->layered[1].EMOD[1][2] = 0;        // starts from K1
+    good->layered[1].KPER[2][1][2] = 5000;  // EMAX may be below K1, not below EMIN
     expectFaults(*good, {{[](LayeredSet& s) { s.EMOD[1][1] = -1; }, "E(1, 1) is -1, card (11)"},
                          {[](LayeredSet& s) { s.NOLAY = 1; }, "E(1, 2) is 0, card (11)"},
                          {[](LayeredSet& s) { s.NOLAY = 0, s.EMOD[1][2] = 1; }, "NOLAY is 0, card (25)"},
@@ -99,6 +100,8 @@ TEST(LayeredCheck, KnowsNonlinearLayers) {
                          {[](LayeredSet& s) { s.NOLLAY[1].NCLAY = ""; }, "NCLAY(1) is empty, card (26)"},
                          {[](LayeredSet& s) { s.NOLLAY[1].ZCNOL = 12.1; }, "ZCNOL(1) is 12.1, card (27)"},
                          {[](LayeredSet& s) { s.NOLLAY[2].ZCNOL = 11.9; }, "ZCNOL(2) is 11.9, card (27)"},
+                         {[](LayeredSet& s) { s.NLG = 2, s.LOADL[2] = {0, 1, 60, 0, 0, 1}, s.RCNOL = 30000; },
+                          "RCNOL is 30000, card (28)"},
                          {[](LayeredSet& s) { s.DELNOL = 0; }, "DELNOL is 0, card (28)"},
                          {[](LayeredSet& s) { s.RELAX[1] = 0; }, "RELAX(1) is 0, card (29)"},
                          {[](LayeredSet& s) { s.RELAX[1] = 1.5f; }, "RELAX(1) is 1.5, card (29)"},

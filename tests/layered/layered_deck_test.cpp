@@ -112,6 +112,9 @@ TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
     s.NVL = 0;
     EXPECT_TRUE(linesAfter(deckOf(*store), "(36) DUR").starts_with(" 0  11  (38) NTYME|"));
     EXPECT_NE(deckOf(*store).find("(39) TYME\r\n 1  1  (46)"), std::string::npos);
+    s.NLBT = 0;
+    EXPECT_TRUE(
+        linesAfter(deckOf(*store), "(48) LNTC").ends_with("(49) TNLR| 1.365E-09   4.477   (51) FT4 FT5|"));
     s.KGRAN[1] = {".5", ".6"};  // close texts keep apart
     EXPECT_NE(deckOf(*store).find(" .5  .6  (31) K2 K0\r\n"), std::string::npos);
 }
