@@ -182,6 +182,7 @@ TEST_F(MainScreen, ABareDirectoryLiesUnderTheLastFullOne) {
     click("cmdBedform");
     EXPECT_EQ(path().textValue(), data.path() + "r/");
     EXPECT_EQ(store.DataPaths[1], data.path() + "r/");
+    EXPECT_EQ(file().textValue(), "new.dat");
     EXPECT_THAT(fileNames, ElementsAre("new.dat"));
 }
 
