@@ -135,6 +135,7 @@ TEST_F(Bedform, MenusOpenTheirTablesFromTheFirstLineOn) {
     set.NBOND = 2;
     click(*menu, "mnuInterface");
     EXPECT_EQ(store.TableKind, 105);
+    EXPECT_EQ(store.TblLines, 2) << "between three layers";
     store.CurGroup = 3;
     store.CurTopRow = 20;
     click(*menu, "lblLoad1");
