@@ -91,7 +91,8 @@ TEST_F(SlabSolveRoad, TheSameByBatch) {
     expectLines(directory.read("lines-2.svg"), {">Max. '-' Stress in Y Dir.=<", ">-150.1 <"});
     EXPECT_EQ(batch({"plot", "joint", "--contour", "--page", "2", "--pdf", "lines.pdf"}).first, 0);
     EXPECT_EQ(directory.read("lines.pdf").substr(0, 5), "%PDF-");
-    EXPECT_NE(batch({"plot", "joint", "--contour", "--page", "3", "--pdf", "none.pdf"}).first, 0);
+    expectLines(batch({"plot", "joint", "--contour", "--page", "3", "--pdf", "none.pdf"}).second,
+                {"the plot has no page 3"});
     EXPECT_EQ(batch({"plot", "joint", "--svg", "slabs.svg"}).first, 0);
     expectLines(directory.read("slabs.svg"),
                 {">Max. Stress =<", ">-150.52 <", ">Two slabs on solid foundation with full contact<"});
