@@ -3,22 +3,33 @@
 
 #include "layered/layered_deck.h"
 #include "layered/layered_rules.h"
+#include "support/example_files.h"
 #include "support/layered_screens.h"
 #include "support/layered_stores.h"
+#include "support/text_change.h"
 
 namespace {
 
 const char* const question = "You have not save the file.  Do you want to save the file?";
-const char* const noThickness = "You forgot to enter the layer thickness by clicking the Layer menu.";
 
 std::string saved(const std::string& name) { return "File with a filename of " + name + " has been saved"; }
 
 class Bedform : public LayeredScreens {
   protected:
-    Bedform() { menu = screens.load("frmBEDFORM"); }
+    Bedform() {
+        std::filesystem::create_directory(away);
+        menu = screens.load("frmBEDFORM");
+    }
 
     StatusLabel& label(const std::string& name) { return menu->control<StatusLabel>(name); }
     std::string caption(const std::string& name) { return menu->control<Label>(name).caption(); }
+    /// Several captions, with "|" between them.
+    std::string captions(const std::vector<const char*>& names) {
+        std::string all;
+        for (const char* name : names) all += (all.empty() ? "" : "|") + caption(name);
+        return all;
+    }
+    std::string mainBoxes() { return mainBox("cmbDataPath") + mainBox("cmbFileName"); }
     bool isOpen() const { return screens.loaded("frmBEDFORM") != nullptr; }
 
     /// A new file with what a save asks for.
@@ -26,27 +37,36 @@ class Bedform : public LayeredScreens {
         choose(*menu, "mnuNew");
         store.layered[1] = threeLayerStore()->layered[1];
     }
-    /// A deck on disk, of that many sets.
-    void writeDeck(const std::string& path, Integer sets = 1, const std::string& title = "Three layers") {
+    void save(const std::string& name) {
+        dialogs.expectBox(saved(name));
+        click(*menu, "cmdSave");
+    }
+    void expectQuestion(Answer answer) { dialogs.expectBox(question, Buttons::YesNoCancel, answer); }
+    /// A deck of that many sets in the data directory.
+    void writeDeck(const std::string& name, Integer sets = 1, const std::string& title = "Three layers") {
         auto deck = threeLayerStore();
         deck->layered[1].TITLE = title;
         deck->NPROB = sets;
         for (int n = 2; n <= sets; ++n) deck->layered[n] = deck->layered[1];
-        saveLayeredDeck(*deck, path);
+        saveLayeredDeck(*deck, directory.path() + name);
     }
     std::string titleInDeck(const std::string& path) {
         Store read;
         readLayeredDeck(path, read);
         return read.layered[1].TITLE;
     }
-    void old(std::optional<std::string> path) {
+    void answerDialog(const std::optional<std::string>& path) {
         dialogs.expectFile(path ? std::optional(FileAnswer{*path, 1}) : std::nullopt);
+    }
+    void old(const std::optional<std::string>& path) {
+        answerDialog(path);
         choose(*menu, "mnuOpen");
     }
-    void saveAs(std::optional<std::string> path) {
-        dialogs.expectFile(path ? std::optional(FileAnswer{*path, 1}) : std::nullopt);
+    void saveAs(const std::optional<std::string>& path) {
+        answerDialog(path);
         click(*menu, "cmdSaveAs");
     }
+    const std::string away = directory.path() + "away/";
     Form* menu;
     LayeredSet& set = store.layered[1];
 };
@@ -105,8 +125,8 @@ TEST_F(Bedform, WordsStandUnderTheirMenusAndEntriesDropDown) {
     EXPECT_EQ(store.NewFile, 1);
 }
 
-/// What no journey opens: the journeys' tables have their lines from here.
-TEST_F(Bedform, MenusOpenTheirTables) {
+/// What the menus open is seen by the journeys.
+TEST_F(Bedform, MenusOpenTheirTablesFromTheFirstLineOn) {
     newRoad();
     set.NDAMA = -1;
     click(*menu, "lblZcoord");
@@ -115,13 +135,10 @@ TEST_F(Bedform, MenusOpenTheirTables) {
     set.NBOND = 2;
     click(*menu, "mnuInterface");
     EXPECT_EQ(store.TableKind, 105);
-    EXPECT_EQ(store.GridCols, 2);
     EXPECT_EQ(store.TblLines, 2) << "between three layers";
-
     store.CurGroup = 3;
     store.CurTopRow = 20;
     click(*menu, "lblLoad1");
-    EXPECT_NE(screens.loaded("frmSpread1"), nullptr);
     EXPECT_EQ(store.CurTopRow, 1);
     EXPECT_EQ(store.CurGroup, 0);
 }
@@ -135,9 +152,7 @@ TEST_F(Bedform, NewSetsDefaultsAndLeavesButtonsAndDoneWords) {
     store.GeneralVisits = 4;
     choose(*menu, "mnuNew");
     EXPECT_EQ(store.CurrentFile, "UNTITLED.DAT");
-    EXPECT_EQ(caption("lblFile"), "Untitled");
-    EXPECT_EQ(caption("lblLayer"), "done");
-    EXPECT_EQ(caption("lblDamage"), "default");
+    EXPECT_EQ(captions({"lblFile", "lblLayer", "lblDamage"}), "Untitled|done|default");
     EXPECT_TRUE(menu->control<OptionButton>("optDataSet2").value());
     EXPECT_EQ(store.CurLayDS, 1);
     EXPECT_EQ(store.NPROB, 1);
@@ -153,8 +168,7 @@ TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
     EXPECT_EQ(store.CurLayDS, 3);
     EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8));
     EXPECT_EQ(store.layered[2].TITLE, "") << "skipped, and in the deck all the same";
-    EXPECT_EQ(caption("Label2"), "No");
-    EXPECT_EQ(caption("Label3"), "Yes");
+    EXPECT_EQ(captions({"Label2", "Label3"}), "No|Yes");
 
     set.LAYER[2].TH = 9;
     store.layered[3].NDAMA = 2;
@@ -167,70 +181,71 @@ TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
     newRoad();
     click(*menu, "optDataSet3");
     EXPECT_EQ(store.layered[3].TITLE, "Three layers") << "another new file";
-}
 
-TEST_F(Bedform, ADataSetThatAnEarlierFileMadeIsNotCopiedAgain) {
-    writeDeck(directory.path() + "one.DAT", 1, "From disk");
-    newRoad();
-    click(*menu, "optDataSet2");
+    writeDeck("one.DAT", 1, "From disk");
     old(directory.path() + "one.DAT");
-    EXPECT_EQ(store.CurLayDS, 2) << "reading leaves the choice of data set";
-    click(*menu, "optDataSet2");  // selected already, and a click all the same
-    EXPECT_EQ(store.NPROB, 2);
-    EXPECT_EQ(store.layered[2].TITLE, "Three layers");
+    EXPECT_EQ(store.CurLayDS, 3) << "reading leaves the choice of data set";
+    click(*menu, "optDataSet3");  // selected already, and a click all the same
+    EXPECT_EQ(store.NPROB, 3);
+    EXPECT_EQ(store.layered[3].TITLE, "Three layers") << "the visit before the reading counts";
 }
 
 TEST_F(Bedform, OldReadsADeckAndTellsTheMainScreen) {
-    const TemporaryDirectory elsewhere;
-    writeDeck(elsewhere.path() + "Road.dat", 3);
+    writeDeck("away/Road.dat", 3);
+    writeDeck("away/one.dat");
     newRoad();
     screens.done("frmBEDFORM", "lblZcoord");
-    old(elsewhere.path() + "Road.dat");
+    store.GeneralVisits = 4;
+    old(away + "Road.dat");
     EXPECT_EQ(dialogs.lastFileQuestion.name, directory.path() + "UNTITLED.DAT");
     EXPECT_EQ(dialogs.lastFileQuestion.filter, "Data Files (*.DAT)|*.DAT|");
-    EXPECT_EQ(caption("lblFile"), "Road");
-    EXPECT_EQ(caption("lblZcoord"), "input");
-    EXPECT_EQ(mainBox("cmbDataPath"), elsewhere.path());
-    EXPECT_EQ(mainBox("cmbFileName"), "Road.dat");
+    EXPECT_EQ(captions({"lblFile", "lblZcoord", "Label3"}), "Road|input|Yes");
+    EXPECT_EQ(mainBoxes(), away + "Road.dat");
     EXPECT_EQ(store.NewFile, 0);
     EXPECT_EQ(store.DataLoaded, 1);
+    EXPECT_EQ(store.GeneralVisits, 0);
     EXPECT_EQ(store.CurrentFile, "UNTITLED.DAT") << "the next dialog proposes the name from before";
-
-    writeDeck(elsewhere.path() + "one.dat");
-    old(elsewhere.path() + "one.dat");
+    old(away + "one.dat");
     EXPECT_EQ(caption("Label3"), "Yes") << "of the deck before: kept";
 }
 
+TEST_F(Bedform, AnOldDosDeckIsToldWhatBecomesOfItsGranularLayers) {
+    std::string deck = example("BED2.DAT");
+    for (const char* label : {"DEL", "NL NZ ICL NSTD NUNIT", "RELAX"})
+        deck = replaced(deck, std::string(") ") + label, ")");
+    directory.write("dos.DAT", deck);
+    dialogs.expectBox(
+        "When converting an old DOS data file to the new format , EMIN for granular material is no longer "
+        "needed and is replaced by a default angle of internal friction (PHI) of 0 signifying that no "
+        "tension is allowed.  If you don't want to use this default, be sure to change it before saving the "
+        "file");
+    old(directory.path() + "dos.DAT");
+}
+
 TEST_F(Bedform, ACancelledOldReadsTheFileThatItHas) {
-    writeDeck(directory.path() + "road.dat", 1, "First");
+    old(std::nullopt);  // a fresh menu: the data directory stays
+    EXPECT_EQ(store.cmbDirectory, directory.path());
+    EXPECT_EQ(store.DataLoaded, 1);
+    writeDeck("road.dat", 1, "First");
     old(directory.path() + "road.dat");
-    writeDeck(directory.path() + "road.dat", 1, "Second");
+    writeDeck("road.dat", 1, "Second");
     old(std::nullopt);
     EXPECT_EQ(set.TITLE, "Second");
 
     choose(*menu, "mnuNew");
+    old("road.dat");  // needs a full name
+    EXPECT_EQ(store.NewFile, 1);
+    EXPECT_EQ(caption("lblFile"), "Untitled");
     old(std::nullopt);  // UNTITLED.DAT of the data directory, which is not there
     EXPECT_EQ(store.NewFile, 0);
     EXPECT_EQ(store.DataLoaded, 1);
     EXPECT_EQ(caption("lblFile"), "UNTITLED");
 }
 
-TEST_F(Bedform, OldNeedsAFullName) {
-    old(std::nullopt);  // a fresh menu, cancelled: the data directory stays
-    EXPECT_EQ(store.cmbDirectory, directory.path());
-    EXPECT_EQ(store.DataLoaded, 1);
-    newRoad();
-    old("road.dat");
-    EXPECT_EQ(store.NewFile, 1);
-    EXPECT_EQ(caption("lblFile"), "Untitled");
-}
-
 TEST_F(Bedform, AFileThatIsNoLayeredDeckUnloadsAndABrokenOneStaysAsFarAsRead) {
-    writeDeck(directory.path() + "road.dat");
-    std::string deck = directory.read("road.dat");
-    std::string wrong = deck;
-    wrong.replace(wrong.find("(9)"), 3, "(8)");
-    directory.write("wrong.dat", wrong);
+    writeDeck("road.dat");
+    const std::string deck = directory.read("road.dat");
+    directory.write("wrong.dat", replaced(deck, "(9)", "(8)"));
     directory.write("broken.dat", deck.substr(0, deck.find("(11)")));
     newRoad();
     dialogs.expectBox("Input file is wrong.  Please click File & Old again and select a different file.");
@@ -242,101 +257,72 @@ TEST_F(Bedform, AFileThatIsNoLayeredDeckUnloadsAndABrokenOneStaysAsFarAsRead) {
     screens.done("frmBEDFORM", "lblZcoord");
     old(directory.path() + "broken.dat");
     EXPECT_EQ(store.DataLoaded, 1);
-    EXPECT_EQ(caption("lblFile"), "broken");
-    EXPECT_EQ(caption("lblZcoord"), "done") << "the words are left alone";
+    EXPECT_EQ(captions({"lblFile", "lblZcoord"}), "broken|done") << "the words are left alone";
     EXPECT_EQ(set.TITLE, "Three layers");
 }
 
-TEST_F(Bedform, SaveWritesANewFileUnderItsBareNameInTheDataDirectory) {
+TEST_F(Bedform, SaveWritesANewFileInTheDataDirectoryAndAnOldOneWhereItWas) {
     newRoad();
-    dialogs.expectBox(saved("UNTITLED.DAT"));
-    click(*menu, "cmdSave");
+    save("UNTITLED.DAT");
     EXPECT_EQ(titleInDeck(directory.path() + "UNTITLED.DAT"), "Three layers");
     EXPECT_EQ(mainBox("cmbFileName"), "UNTITLED.DAT");
-
-    const TemporaryDirectory elsewhere;
-    main->control<ComboBox>("cmbDataPath").setTextValue(elsewhere.path());
-    dialogs.expectBox(saved("UNTITLED.DAT"));
-    click(*menu, "cmdSave");
-    EXPECT_EQ(titleInDeck(elsewhere.path() + "UNTITLED.DAT"), "Three layers");
-
+    main->control<ComboBox>("cmbDataPath").setTextValue(away);
+    save("UNTITLED.DAT");
+    EXPECT_EQ(titleInDeck(away + "UNTITLED.DAT"), "Three layers");
     click(*menu, "cmdExit");  // nobody asks
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(store.DataLoaded, 0);
-}
 
-TEST_F(Bedform, SaveWritesAnOldFileWhereItWasWhateverItsLetterCase) {
-    const TemporaryDirectory elsewhere;
-    writeDeck(elsewhere.path() + "Road.dat");
-    old(elsewhere.path() + "Road.dat");
+    menu = screens.load("frmBEDFORM");
+    writeDeck("away/Road.dat");
+    old(away + "Road.dat");
     set.TITLE = "Changed";
-    dialogs.expectBox(saved("Road.dat"));
-    click(*menu, "cmdSave");
-    EXPECT_EQ(titleInDeck(elsewhere.path() + "Road.dat"), "Changed");
+    save("Road.dat");
+    EXPECT_EQ(titleInDeck(away + "Road.dat"), "Changed") << "letter case and all";
     EXPECT_EQ(mainBox("cmbFileName"), "Road.dat");
-}
-
-TEST_F(Bedform, AnyClickOnADataMenuCountsAsAChange) {
-    newRoad();
-    dialogs.expectBox(saved("UNTITLED.DAT"));
-    click(*menu, "cmdSave");
-    dialogs.expectBox("You don't have to click this menu because NDAMA = 0.");
-    click(*menu, "lblDamage");
-    dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Cancel);
-    click(*menu, "cmdExit");
-    EXPECT_TRUE(isOpen());
 }
 
 TEST_F(Bedform, AFailedSaveIsToldAndLeavesTheOldDeckWhole) {
     newRoad();
-    dialogs.expectBox(saved("UNTITLED.DAT"));
-    click(*menu, "cmdSave");
+    save("UNTITLED.DAT");
+    dialogs.expectBox("You don't have to click this menu because NDAMA = 0.");
+    click(*menu, "lblDamage");  // counts as a change
     const std::string before = directory.read("UNTITLED.DAT");
-    click(*menu, "mnuGeneral");
     set.LOADL[1].NR = "";
     const std::string failure = "Type mismatch: NR(1), card (16), data set 1";
     dialogs.expectBox(failure);
     click(*menu, "cmdSave");
     EXPECT_EQ(directory.read("UNTITLED.DAT"), before);
-    dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Yes);
+    expectQuestion(Answer::Yes);
     dialogs.expectBox(failure);
     click(*menu, "cmdExit");
     EXPECT_TRUE(isOpen()) << "what could not be saved is not given up";
 }
 
 TEST_F(Bedform, SaveAsMovesToTheChosenDirectory) {
-    const TemporaryDirectory elsewhere;
     newRoad();
     store.DataPaths[1] = directory.path();
     dialogs.expectBox(saved("tandem.DAT"));
-    saveAs(elsewhere.path() + "tandem");
+    saveAs(away + "tandem");
     EXPECT_EQ(dialogs.lastFileQuestion.action, FileQuestion::Action::Save);
     EXPECT_EQ(dialogs.lastFileQuestion.name, "UNTITLED.DAT");
     EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
-    EXPECT_EQ(titleInDeck(elsewhere.path() + "tandem.DAT"), "Three layers");
+    EXPECT_EQ(titleInDeck(away + "tandem.DAT"), "Three layers");
     EXPECT_EQ(caption("lblFile"), "tandem");
     EXPECT_EQ(store.CurrentFile, "tandem.DAT");
-    EXPECT_EQ(mainBox("cmbDataPath"), elsewhere.path());
-    EXPECT_EQ(mainBox("cmbFileName"), "tandem.DAT");
-    EXPECT_EQ(main->control<ComboBox>("cmbDataPath").listText(0), elsewhere.path());
-}
+    EXPECT_EQ(mainBoxes(), away + "tandem.DAT");
+    EXPECT_EQ(main->control<ComboBox>("cmbDataPath").listText(0), away);
 
-TEST_F(Bedform, ACancelledSaveAsSavesUnderThePresentName) {
-    const TemporaryDirectory elsewhere;
-    writeDeck(elsewhere.path() + "road.dat");
-    old(elsewhere.path() + "road.dat");
     main->control<ComboBox>("cmbDataPath").setTextValue(directory.path());  // the user moved on meanwhile
-    dialogs.expectBox(saved("road.dat"));
-    saveAs(std::nullopt);
+    dialogs.expectBox(saved("tandem.DAT"));
+    saveAs(std::nullopt);  // cancelled: saved under the present name
     EXPECT_EQ(dialogs.lastFileQuestion.directory, directory.path());
-    EXPECT_EQ(titleInDeck(directory.path() + "road.dat"), "Three layers");
-    EXPECT_EQ(caption("lblFile"), "road");
-}
+    EXPECT_EQ(titleInDeck(directory.path() + "tandem.DAT"), "Three layers");
 
-TEST_F(Bedform, AFailedSaveAsIsSilentAndTheExitStillAsks) {
-    newRoad();
-    saveAs(directory.path() + "missing/road.DAT");
-    dialogs.expectBox(question, Buttons::YesNoCancel, Answer::No);
+    set.TITLE = "Never saved";
+    click(*menu, "mnuGeneral");
+    saveAs(directory.path() + "missing/road.DAT");  // fails in silence
+    expectQuestion(Answer::No);
     click(*menu, "cmdExit");
     EXPECT_FALSE(isOpen());
 }
@@ -345,19 +331,19 @@ TEST_F(Bedform, ExitAndFrameAskTheSame) {
     const std::function<void()> ways[] = {[&] { click(*menu, "cmdExit"); }, [&] { menu->close(); }};
     for (const auto& leave : ways) {
         if (!isOpen()) menu = screens.load("frmBEDFORM");
-        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Yes);
-        dialogs.expectBox(noThickness);  // nothing was opened, so nothing is there
-        leave();
+        expectQuestion(Answer::Yes);
+        dialogs.expectBox("You forgot to enter the layer thickness by clicking the Layer menu.");
+        leave();  // nothing was opened, so nothing is there
         EXPECT_TRUE(isOpen());
 
         newRoad();
-        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::Cancel);
+        expectQuestion(Answer::Cancel);
         leave();
         EXPECT_TRUE(isOpen());
         EXPECT_EQ(store.DataLoaded, 1);
 
         set.TITLE = "Given up";
-        dialogs.expectBox(question, Buttons::YesNoCancel, Answer::No);
+        expectQuestion(Answer::No);
         leave();
         EXPECT_FALSE(isOpen());
         EXPECT_EQ(store.DataLoaded, 0);

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <sstream>
 
 #include "platform/run_time_error.h"
 #include "store/deck_kind.h"
 #include "support/deck_texts.h"
+#include "support/example_files.h"
 #include "support/layered_stores.h"
 #include "support/temporary_directory.h"
 
@@ -46,55 +48,45 @@ TEST(LayeredDeck, WritesCardsToTheLetter) {
     s.LAYER[1].TH = "4.50";  // as typed: a text brings no blanks of its own
     s.LAYER[2].TH = 1.365e-9f;
     s.LAYER[1].PR = "-.5";
-    EXPECT_EQ(linesAfter(deckOf(*store), "NUNIT").substr(0, 50),
-              "4.50  1.365E-09   (6) TH|-.5  .3   .45   (7) PR| 0");
+    EXPECT_TRUE(
+        linesAfter(deckOf(*store), "NUNIT").starts_with("4.50  1.365E-09   (6) TH|-.5  .3   .45   (7) PR|"));
 }
 
 TEST(LayeredDeck, CardsComeByTheirConditions) {
     const auto store = threeLayerStore();
     LayeredSet& s = store->layered[1];
-    s.NBOND = 0;
+    const auto after = [&](const char* label) { return linesAfter(deckOf(*store), label); };
     s.INTF[2] = 1;
-    EXPECT_NE(deckOf(*store).find(" 0  (9) NBOND\r\n 0   1   (10) INT\r\n 400000"), std::string::npos);
-    s.NBOND = 2;
-    EXPECT_NE(deckOf(*store).find("(10) INT"), std::string::npos);
+    for (const Single NBOND : {0.f, 2.f}) {
+        s.NBOND = NBOND;
+        EXPECT_TRUE(after("(9) NBOND").starts_with(" 0   1   (10) INT| 400000")) << NBOND;
+    }
     s.NL = 1;
-    EXPECT_EQ(linesAfter(deckOf(*store), "NSTD NUNIT").substr(0, 53),
-              " .35   (7) PR| 0   4.0001   (8) ZC| 2  (9) NBOND| 400");
+    EXPECT_TRUE(after("NSTD NUNIT").starts_with(" .35   (7) PR| 0   4.0001   (8) ZC| 2  (9) NBOND| 400"));
     s.NZ = 0;
-    EXPECT_EQ(deckOf(*store).find("(8)"), std::string::npos);
+    EXPECT_TRUE(after("(7) PR").starts_with(" 2  (9) NBOND"));
     s.NZ = 2;
     s.NDAMA = 1;
-    EXPECT_EQ(deckOf(*store).find("(8)"), std::string::npos);
-    EXPECT_NE(deckOf(*store).find("(46)"), std::string::npos);
+    EXPECT_TRUE(after("(7) PR").starts_with(" 2  (9) NBOND"));
+    EXPECT_NE(after("(17) RC").find("(46)"), std::string::npos);
     s.LOADL[1].NR = 0;
     s.NDAMA = 0;
-    EXPECT_EQ(linesAfter(deckOf(*store), "(14) CR CP"), " 0   (16) NR|");
+    EXPECT_EQ(after("(14) CR CP"), " 0   (16) NR|");
 }
 
-TEST(LayeredDeck, MultipleWheelsAndTheOpenLine) {
+/// Without points the label stays away and the next card, or the next data set, goes on on the line.
+TEST(LayeredDeck, WheelsWithoutPointsLeaveTheLineOpen) {
     const auto store = threeLayerStore();
     LayeredSet& s = store->layered[1];
     s.NLG = 2;
-    s.LOADL[1] = {2, 4.5f, 100.0f, 13.5f, 48.0f, 2};
-    s.PT[1][1] = {0, "6.75"};
-    s.PT[1][2] = {24.0f, 0};
-    s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, 1};
-    EXPECT_EQ(
-        linesAfter(deckOf(*store), "(11) E"),
-        " 2   (13) LOAD| 4.5   100   (14) CR CP| 2   (19) NPT| 48   13.5   0  6.75  24   0   (20) XW YW XPT|"
-        " 1   (13) LOAD| 4.5   100   (14) CR CP| 1   (19) NPT| 0   13.5   0   0   (20) XW YW XPT|");
-
-    // Without points the label stays away and the next card, or the next data set, goes on on the line.
-    s.LOADL[1].NR = 0;
-    s.LOADL[2].NR = "0";
+    s.LOADL[1] = {2, 4.5f, 100.0f, 13.5f, 48.0f, 0};
+    s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, "0"};
     store->NPROB = 2;
     store->layered[2] = threeLayerStore()->layered[1];
     const std::string deck = deckOf(*store);
-    EXPECT_NE(linesAfter(deck, "(11) E").find(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"),
-              std::string::npos);
-    EXPECT_NE(linesAfter(deck, "(11) E").find("0  (19) NPT| 0   13.5  Three layers| 1  0  1"),
-              std::string::npos);
+    const std::string loads = linesAfter(deck, "(11) E");
+    EXPECT_NE(loads.find(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"), std::string::npos);
+    EXPECT_NE(loads.find("0  (19) NPT| 0   13.5  Three layers| 1  0  1"), std::string::npos);
     const auto read = std::make_unique<Store>();
     ListReader in = ListReader::fromText(deck);
     EXPECT_EQ(readLayeredDeck(in, *read).sentence(), "");
@@ -102,70 +94,27 @@ TEST(LayeredDeck, MultipleWheelsAndTheOpenLine) {
     EXPECT_EQ(read->layered[2].TITLE, "Three layers");
 }
 
-/// Nonlinear and viscoelastic with damage: two layers of each kind, two periods.
+/// Nonlinear and viscoelastic with damage, two periods.
 std::unique_ptr<Store> combinedStore() {
-    auto store = threeLayerStore();
-    LayeredSet& s = store->layered[1];
-    s.MATL = 4;
-    s.NDAMA = 1;
-    s.NPY = 2;
-    s.NOLAY = 2;
-    s.ITENOL = 15;
-    s.NOLLAY[1] = {2, 8.5, 0};
-    s.NOLLAY[2] = {3, 13.0, 1};
-    s.RCNOL = s.XCNOL = s.YCNOL = s.SLD = 0;
-    s.DELNOL = .01;
-    s.RELAX[1] = s.RELAX[2] = .5f;
-    s.KGRAN[1] = {.5, .6};
-    s.KCLAY[2] = {6.2, 1110, 178, .8};
-    for (int period = 1; period <= 2; ++period) {
-        s.KPER[1][period][1] = 10 * period;
-        s.KPER[1][period][2] = 8000;
-        s.KPER[2][period][1] = 1827;
-        s.KPER[2][period][2] = 7682;
-        s.KPER[2][period][3] = 3020 * period;
-    }
-    s.DUR = .1;
-    s.NVL = 1;
-    s.NTYME = 2;
-    s.VISLAY[1] = {1, .113, 70};
-    s.TYME[1] = .001;
-    s.TYME[2] = 100;
-    s.CREEP[1][1] = 1.365e-9f;
-    s.CREEP[1][2] = 2e-5f;
-    s.TEMP[1][1] = 70;
-    s.TEMP[2][1] = "40";
-    s.NLBT = s.NLTC = 1;
-    s.DAMBT[1] = {1, .0796, 3.291, .854};
-    s.DAMTC[1] = {3, 1.365e-9f, 4.477f};
-    s.TNLR[1][1] = 100000;
-    s.TNLR[2][1] = 2.76e7f;
+    auto store = std::make_unique<Store>();
+    EXPECT_EQ(readLayeredDeck(TOLMARK_SOURCE_DIR "/examples/BED6.DAT", *store).sentence(), "");
     return store;
 }
 
 TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
     const auto store = combinedStore();
     LayeredSet& s = store->layered[1];
-    EXPECT_EQ(linesAfter(deckOf(*store), "(17) RC"),
-              " 2  15  (25) NOLAY ITENOL| 2   0   3   1   (26) LAYNO NCLAY| 8.5   13   (27) ZCNOL|"
-              " 0  0  0  0  .01  (28) RCNOL XCNOL YCNOL SLD DELNOL| .5   .5   (29) RELAX| 145   135   125   "
-              "(30) GAM|"
-              " .5  .6  (31) K2 K0| 6.2  1110  178  .8  (31) K2 K3 K4 K0|"
-              " 10   8000   (33) PHI K1| 1827   7682   3020   (33) EMIN EMAX K1|"
-              " 20   8000   (33) PHI K1| 1827   7682   6040   (33) EMIN EMAX K1|"
-              " .1  (36) DUR| 1  1   (37) NVL LNV| 2  (38) NTYME| .001   100   (39) TYME|"
-              " .113   70   (41) BETA TEMPREF| 1.365E-09   .00002   (42) CREEP| 70   (44) TEMP|40  (44) TEMP|"
-              " 1  1  (46) NLBT NLTC| 1   (47) LNBT| 3   (48) LNTC| 100000   (49) TNLR| 2.76E+07   (49) TNLR|"
-              " .0796   3.291   .854   (50) FT1 FT2 FT3| 1.365E-09   4.477   (51) FT4 FT5|");
-
+    EXPECT_EQ(deckOf(*store), example("BED6.DAT"));
     s.NVL = 2;  // from two layers on the count has a line of its own
     s.VISLAY[2] = {2, .113, 70};
-    EXPECT_NE(linesAfter(deckOf(*store), "(36) DUR").find(" 2 | 1   2   (37) NVL LNV| 2  (38)"),
+    EXPECT_NE(linesAfter(deckOf(*store), "(36) DUR").find(" 2 | 1   2   (37) NVL LNV| 11  (38)"),
               std::string::npos);
     s.NVL = 0;
-    EXPECT_NE(
-        linesAfter(deckOf(*store), "(36) DUR").find(" 0  2  (38) NTYME| .001   100   (39) TYME| 1  1  (46)"),
-        std::string::npos);
+    EXPECT_TRUE(linesAfter(deckOf(*store), "(36) DUR").starts_with(" 0  11  (38) NTYME|"));
+    EXPECT_NE(deckOf(*store).find("(39) TYME\r\n 1  1  (46)"), std::string::npos);
+    s.NLBT = 0;
+    EXPECT_TRUE(
+        linesAfter(deckOf(*store), "(48) LNTC").ends_with("(49) TNLR| 1.365E-09   4.477   (51) FT4 FT5|"));
     s.KGRAN[1] = {".5", ".6"};  // close texts keep apart
     EXPECT_NE(deckOf(*store).find(" .5  .6  (31) K2 K0\r\n"), std::string::npos);
 }
@@ -181,15 +130,9 @@ TEST(LayeredDeck, RandomStoresKeepTheirValues) {
         ASSERT_EQ(readLayeredDeck(in, *read).sentence(), "");
         EXPECT_TRUE(in.endOfFile() || in.nextItem().empty());
         ASSERT_EQ(read->NPROB, store->NPROB);
-        for (int n = 1; n <= store->NPROB; ++n) {
-            const auto expected = valuesOf(store->layered[n], layeredCards()),
-                       values = valuesOf(read->layered[n], layeredCards());
-            ASSERT_EQ(values.size(), expected.size());
-            for (std::size_t i = 0; i < values.size(); ++i) {
-                ASSERT_EQ(values[i].first, expected[i].first);
-                ASSERT_EQ(values[i].second, expected[i].second) << values[i].first;
-            }
-        }
+        for (int n = 1; n <= store->NPROB; ++n)
+            ASSERT_EQ(valuesOf(read->layered[n], layeredCards()),
+                      valuesOf(store->layered[n], layeredCards()));
         const std::string again = deckOf(*read);  // texts have become numbers: from here on it stays
         ListReader second = ListReader::fromText(again);
         ASSERT_EQ(readLayeredDeck(second, *store).outcome, Outcome::Complete);
@@ -207,7 +150,7 @@ TEST(LayeredDeck, OldFormatDiffersInThreePlaces) {
         old.erase(close + 1, old.find('\r', at) - close - 1);
     }
     old = replaced(old, " 80  9  1  (5)", " 80  9  (5)");
-    old = replaced(old, " 145   135   125 ", " .084   .078125  0.0723379 ");
+    old = replaced(old, " 146   136   122 ", " .0845   .078705  0.0706019 ");
 
     const auto read = std::make_unique<Store>();
     read->layered[1].NUNIT = 1;
@@ -225,15 +168,15 @@ TEST(LayeredDeck, OldFormatDiffersInThreePlaces) {
     LayeredSet& s = read->layered[1];
     EXPECT_EQ(s.NUNIT, 0);
     EXPECT_EQ(s.NSTD, 9);
-    EXPECT_EQ(s.KPER[1][2][1], Variant(20));
-    const int weights[] = {145, 135, 125};
+    EXPECT_EQ(s.KPER[1][2][1], Variant(45));
+    const int weights[] = {146, 136, 122};
     for (int layer = 1; layer <= 3; ++layer) {
         EXPECT_TRUE(std::holds_alternative<Integer>(s.LAYER[layer].GAM.value()));
         EXPECT_EQ(s.LAYER[layer].GAM, Variant(weights[layer - 1]));
     }
     EXPECT_NE(deckOf(*read).find(" 80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"), std::string::npos);
 
-    ListReader heavy = ListReader::fromText(replaced(old, ".084 ", "145 "));
+    ListReader heavy = ListReader::fromText(replaced(old, ".0845 ", "146 "));
     const DeckReadResult result = readLayeredDeck(heavy, *read);
     EXPECT_EQ(result.outcome, Outcome::Failed);
     EXPECT_EQ(result.where.text(), "GAM(1), card (30), data set 1");
@@ -265,8 +208,7 @@ TEST(LayeredDeck, BadDecksAreToldByLineFieldAndCard) {
         EXPECT_EQ(result.sentence(), row.sentence);
     }
 
-    std::string many = " 3  0  1  13  (3)";
-    many = replaced(deck, " 1  0  1  1  (3)", many);
+    std::string many = replaced(deck, " 1  0  1  1  (3)", " 3  0  1  13  (3)");
     const std::string group = deck.substr(deck.find(" 0   (13)"));
     for (int n = 2; n <= 13; ++n) many += group;
     const auto read = std::make_unique<Store>();
@@ -290,25 +232,22 @@ TEST(LayeredDeck, FilesAreFoundIgnoringCase) {
 
 TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
     const struct {
-        const char* what;
         void (*spoil)(Store& store);
         Fault fault;
         const char* place;
     } rows[] = {
-        {"count never entered", [](Store& s) { s.layered[1].LOADL[1].NR = ""; }, Fault::TypeMismatch,
+        {[](Store& s) { s.layered[1].LOADL[1].NR = ""; }, Fault::TypeMismatch,
          "NR(1), card (16), data set 1"},
-        {"text in a cell", [](Store& s) { s.layered[1].LAYER[2].TH = "1,5"; }, Fault::TypeMismatch,
+        {[](Store& s) { s.layered[1].LAYER[2].TH = "1,5"; }, Fault::TypeMismatch,
          "TH(2), card (6), data set 1"},
-        {"layers beyond the store", [](Store& s) { s.layered[1].NL = 20; }, Fault::SubscriptOutOfRange,
-         "PR(20), card (7), data set 1"},
-        {"periods beyond the store", [](Store& s) { s.layered[1].NPY = 13; }, Fault::SubscriptOutOfRange,
+        {[](Store& s) { s.layered[1].NL = 20; }, Fault::SubscriptOutOfRange, "PR(20), card (7), data set 1"},
+        {[](Store& s) { s.layered[1].NPY = 13; }, Fault::SubscriptOutOfRange,
          "E(13, 1), card (11), data set 1"},
-        {"second set empty",
-         [](Store& s) { s.NPROB = 2, s.layered[2].NLG = 1, s.layered[2].LOADL[1].NR = ""; },
+        {[](Store& s) { s.NPROB = 2, s.layered[2].NLG = 1, s.layered[2].LOADL[1].NR = ""; },
          Fault::TypeMismatch, "NR(1), card (16), data set 2"},
-        {"sets beyond the store", [](Store& s) { s.NPROB = 6; }, Fault::SubscriptOutOfRange, "data set 6"},
-        {"no finite number", [](Store& s) { s.layered[1].DEL = std::numeric_limits<Single>::infinity(); },
-         Fault::Overflow, "DEL, card (4), data set 1"},
+        {[](Store& s) { s.NPROB = 6; }, Fault::SubscriptOutOfRange, "data set 6"},
+        {[](Store& s) { s.layered[1].DEL = std::numeric_limits<Single>::infinity(); }, Fault::Overflow,
+         "DEL, card (4), data set 1"},
     };
     TemporaryDirectory folder;
     folder.write("road.DAT", "old");
@@ -317,12 +256,12 @@ TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
         row.spoil(*store);
         try {
             saveLayeredDeck(*store, folder.path() + "road.DAT");
-            ADD_FAILURE() << row.what;
+            ADD_FAILURE() << row.place;
         } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.fault(), row.fault) << row.what;
+            EXPECT_EQ(error.fault(), row.fault) << row.place;
             EXPECT_TRUE(std::string(error.what()).ends_with(row.place)) << error.what();
         }
-        EXPECT_EQ(folder.read("road.DAT"), "old") << row.what;
+        EXPECT_EQ(folder.read("road.DAT"), "old") << row.place;
     }
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
@@ -330,7 +269,7 @@ TEST(LayeredDeck, WhatCannotBeWrittenLeavesTheOldDeckWhole) {
 TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {
     constexpr unsigned seed = 4711;
     RandomStores random(seed);
-    int complete = 0, failed = 0, notADeck = 0;
+    std::set<Outcome> outcomes;
     for (int round = 0; round < 300; ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
         const auto store = random.next();
@@ -338,27 +277,21 @@ TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {
         DeckReadResult result;
         ASSERT_NO_THROW(result = readLayeredDeck(in, *store));
         ASSERT_EQ(result.sentence().empty(), result.outcome == Outcome::Complete);
-        ++(result.outcome == Outcome::Complete ? complete
-           : result.outcome == Outcome::Failed ? failed
-                                               : notADeck);
+        outcomes.insert(result.outcome);
     }
-    EXPECT_GT(complete, 0);
-    EXPECT_GT(failed, 0);
-    EXPECT_GT(notADeck, 0);
+    EXPECT_EQ(outcomes.size(), 3U);
 }
 
 TEST(DeckKind, IsToldByTheThirdCard) {
-    const std::string slab =
-        " 1  (1) NPROB\r\nSlab\r\n 0  0  1  1  (3) NFOUND NDAMA NPY NLG\r\n 1  0  (4) NSLAB NJOINT\r\n";
-    const std::string shortLabels = replaced(threeLayerDeck, " (3) MATL NDAMA NPY NLG", " (3)");
+    const std::string slab = example("PAN1.DAT"), beginning = slab.substr(0, 200);
     const struct {
         std::string text;
         DeckKind kind;
     } rows[] = {{threeLayerDeck, DeckKind::Layered},
-                {slab, DeckKind::Slab},
-                {shortLabels, DeckKind::Layered},
-                {replaced(slab, " (3) NFOUND NDAMA NPY NLG", " (3)"), DeckKind::Unknown},
-                {"", DeckKind::Unknown}};
+                {beginning, DeckKind::Slab},
+                {replaced(threeLayerDeck, " (3) MATL NDAMA NPY NLG", " (3)"), DeckKind::Layered},
+                {replaced(slab, " (3) NFOUND NDAMA NPY NLG", " (3)"), DeckKind::Slab},
+                {replaced(beginning, " (3) NFOUND NDAMA NPY NLG", " (3)"), DeckKind::Unknown}};
     TemporaryDirectory folder;
     for (const auto& row : rows) {
         folder.write("deck.DAT", row.text);

@@ -6,6 +6,12 @@
 
 namespace {
 
+std::string texts(const std::vector<Variant>& values) {
+    std::string joined;
+    for (const Variant& value : values) joined += (joined.empty() ? "" : " ") + value.text();
+    return joined;
+}
+
 /// A set in which every place that a new file may or may not clear holds a 7.
 LayeredSet usedSet() {
     LayeredSet set;
@@ -39,22 +45,13 @@ TEST(NewFileDefaults, ClearAsFarAsTheyReachAndNoFurther) {
     EXPECT_EQ(set.TITLE, "");
     EXPECT_TRUE(set.LOADL[12].NR.isEmptyText());
     EXPECT_TRUE(set.NOLLAY[12].NCLAY.isEmptyText());
-    EXPECT_EQ(set.INTF[18], 0);
-    EXPECT_EQ(set.INTF[19], 7);
-    EXPECT_EQ(set.CREEP[12][12], 0);
-    EXPECT_EQ(set.CREEP[12][13], 7);
-    EXPECT_EQ(set.TYME[11], Variant(100));
-    EXPECT_EQ(set.TYME[12], Variant(7));
-    EXPECT_EQ(set.RC[12][24], Variant(0));
-    EXPECT_EQ(set.RC[12][25], Variant(7));
-    EXPECT_EQ(set.PT[1][25].YPT, Variant(7));
-    EXPECT_EQ(set.DAMBT[12].FT1, Variant(0.0796));
-    EXPECT_EQ(set.DAMBT[13].FT1, Variant(7));
-    EXPECT_EQ(set.DAMBT[1].LNBT, Variant(7));
-    EXPECT_EQ(set.DAMTC[13].FT5, 7);
-    EXPECT_EQ(set.VISLAY[1].LNV, Variant(0));
-    EXPECT_EQ(set.VISLAY[1].TEMPREF, Variant(7));
-    EXPECT_EQ(set.TEMP[1][1], Variant(7));
+    EXPECT_EQ(texts({set.INTF[18], set.CREEP[12][12], set.TYME[11], set.RC[12][24], set.VISLAY[1].LNV,
+                     set.DAMBT[12].FT1}),
+              "0 0 100 0 0 .0796");
+    EXPECT_EQ(texts({set.INTF[19], set.CREEP[12][13], set.TYME[12], set.RC[12][25], set.PT[1][25].YPT,
+                     set.DAMBT[13].FT1, set.DAMBT[1].LNBT, set.DAMTC[13].FT5, set.VISLAY[1].TEMPREF,
+                     set.TEMP[1][1]}),
+              "7 7 7 7 7 7 7 7 7 7");
 }
 
 TEST(UnitDefaults, FollowTheSystemOfUnits) {
@@ -64,25 +61,21 @@ TEST(UnitDefaults, FollowTheSystemOfUnits) {
     EXPECT_EQ(set.VISLAY[1].TEMPREF, Variant(70));
     set.NUNIT = 1;
     setUnitDefaults(set);
-    EXPECT_EQ(set.VISLAY[12].BETA, Variant(0.2034));
-    EXPECT_EQ(set.TEMP[12][12], Variant(21.1));
-    EXPECT_EQ(set.DAMBT[12].FT1, Variant(0.414));
-    EXPECT_EQ(set.DAMBT[13].FT1, Variant(0));
+    EXPECT_EQ(texts({set.VISLAY[12].BETA, set.TEMP[12][12], set.DAMBT[12].FT1, set.DAMBT[13].FT1}),
+              ".2034 21.1 .414 0");
 }
 
 class Copying : public ::testing::Test {
   protected:
     Copying() {
         first = usedSet();
-        first.NPY = 2;
-        first.NLG = 2;
+        first.NPY = first.NLG = first.NLBT = 2;
+        first.NLTC = 1;
         first.NL = 3;
         first.NZ = 4;
         first.NVL = 1;
         first.NTYME = 11;
         first.NOLAY = 2;
-        first.NLBT = 2;
-        first.NLTC = 1;
         first.LOADL[1].NR = 3;
         first.LOADL[2].NR = "2";  // as a table cell stores it
     }
@@ -93,35 +86,26 @@ class Copying : public ::testing::Test {
 
 TEST_F(Copying, ReachesAsFarAsTheCountsOfTheFirstSet) {
     Initial(store, 3);
-    EXPECT_EQ(third.ZC[4], Variant(7));
-    EXPECT_EQ(third.ZC[5], Variant(0));
-    EXPECT_EQ(third.INTF[3], 0);
-    EXPECT_EQ(third.EMOD[2][3], Variant(7));
-    EXPECT_EQ(third.RC[2][2], Variant(7));
-    EXPECT_EQ(third.RC[2][3], Variant(0));
-    EXPECT_EQ(third.DAMBT[2].FT3, Variant(7));
-    EXPECT_EQ(third.DAMTC[2].FT5, 0);
-    EXPECT_EQ(third.TEMP[2][1], Variant(7));
-    EXPECT_EQ(third.TEMP[2][2], Variant(0));
+    EXPECT_EQ(texts({third.ZC[4], third.EMOD[2][3], third.RC[2][2], third.DAMBT[2].FT3, third.TEMP[2][1]}),
+              "7 7 7 7 7");
+    EXPECT_EQ(texts({third.ZC[5], third.INTF[3], third.RC[2][3], third.DAMTC[2].FT5, third.TEMP[2][2]}),
+              "0 0 0 0 0");
     EXPECT_EQ(store.layered[2].TITLE, "");
 }
 
 TEST_F(Copying, EndsInSilenceWhereACountIsNoNumber) {
     first.LOADL[1].NR = "";
     Initial(store, 3);
-    EXPECT_EQ(third.EMOD[1][1], Variant(7));
     EXPECT_TRUE(third.LOADL[1].NR.isEmptyText());
-    EXPECT_EQ(third.LOADL[2].CR, Variant(0));
-    EXPECT_EQ(third.DAMBT[1].FT1, Variant(0));
-    EXPECT_EQ(third.VISLAY[1].BETA, Variant(0));
+    EXPECT_EQ(texts({third.EMOD[1][1], third.LOADL[2].CR, third.DAMBT[1].FT1, third.VISLAY[1].BETA}),
+              "7 0 0 0");
 }
 
+/// Seasonal parameters of period 13 come before the layers.
 TEST_F(Copying, EndsInSilenceAtTheBoundOfTheStore) {
     first.NPY = 13;
     Initial(store, 3);
-    EXPECT_EQ(third.NPY, 13);
-    EXPECT_EQ(third.ZC[4], Variant(7));
-    EXPECT_EQ(third.LAYER[1].TH, Variant(0)) << "seasonal parameters of period 13 come before the layers";
+    EXPECT_EQ(texts({third.NPY, third.ZC[4], third.LAYER[1].TH}), "13 7 0");
 }
 
 TEST(MissingData, AnEmptyTextCountsAsZeroAndOnlyTheFirstSetIsLookedAt) {

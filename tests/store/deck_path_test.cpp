@@ -28,7 +28,7 @@ TEST(DeckPath, IsCompletedWhenItIsBare) {
 TEST(DeckPath, LosesItsExtension) {
     EXPECT_EQ(withoutExtension("road.DAT"), "road");
     EXPECT_EQ(withoutExtension(".DAT"), "");
-    EXPECT_EQ(withoutExtension(""), "");
+    EXPECT_EQ(withoutExtension("ab"), "");
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "store/cards.h"
 #include "support/random_cells.h"
+#include "support/text_change.h"
 
 /// The deck from the line behind the label of card `from` to the end, with line ends as "|".
 inline std::string linesAfter(const std::string& deck, const std::string& label) {
@@ -18,12 +19,6 @@ inline std::string linesAfter(const std::string& deck, const std::string& label)
     for (const char c : deck.substr(deck.find(label) + label.size() + 2))
         if (c != '\r') lines += c == '\n' ? '|' : c;
     return lines;
-}
-
-inline std::string replaced(std::string text, const std::string& what, const std::string& by) {
-    const auto at = text.find(what);
-    EXPECT_NE(at, std::string::npos) << what;
-    return text.replace(at, what.size(), by);
 }
 
 /// Every value that a data set's cards hold, with its place.

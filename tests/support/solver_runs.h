@@ -5,20 +5,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "support/example_files.h"
+
 using testing::HasSubstr;
 using testing::Not;
-
-inline std::string example(const std::string& name) {
-    std::ifstream file(std::string(TOLMARK_SOURCE_DIR "/examples/") + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// Replaces the line that ends in `label`; the deck must have it.
 inline std::string withCard(std::string deck, const std::string& label, const std::string& values) {
