@@ -174,4 +174,32 @@ TEST(Tolstrat, RefusesWhatIsNoDeck) {
     EXPECT_THAT(missing.errors, HasSubstr("nothing here"));
 }
 
+TEST(Tolstrat, TablesTakeNoOtherPlaceAndDoNotOutliveTheirRun) {
+    const TemporaryDirectory folder;
+    const std::string road = folder.path() + "road", deck = example("BED1.DAT");
+    folder.write("road.DAT", deck);
+    ASSERT_EQ(run({road, "--csv", road + ".csv"}).status, SOLVED);
+    const std::string results = folder.read("road.TXT");
+    for (const char* taken : {"road.DAT", "./road.TXT", "road.BED"})
+        EXPECT_THAT(run({road, "--csv", folder.path() + taken}).errors,
+                    HasSubstr("another file of this run"));
+    EXPECT_EQ(run({road, "--csv", road + ".csv", "--csv-damage", road + ".csv"}).status, BAD_DECK);
+    EXPECT_EQ(folder.read("road.DAT"), deck);
+    EXPECT_EQ(folder.read("road.TXT"), results);
+
+    folder.write("road.DAT", withCard(deck, " (6) TH", " 0   8 "));
+    EXPECT_EQ(run({road, "--csv", road + ".csv"}).status, BAD_DECK);
+    EXPECT_EQ(folder.read("road.csv"), "");
+}
+
+TEST(Tolstrat, TellsWhatItPassedOver) {
+    const TemporaryDirectory folder;
+    const std::string deck = withCard(example("BED1.DAT"), " (6) TH", " 6   8   10 ");
+    folder.write("road.DAT", deck);
+    const std::string remark = "line 6: card (6), data set 1: the values from 10 on were not read";
+    EXPECT_THAT(run({folder.path() + "road"}).output, HasSubstr("*** " + remark));
+    EXPECT_THAT(folder.read("road.TXT"), HasSubstr("*** " + remark));
+    EXPECT_THAT(refusal(withCard(deck, " (11) E", " 400000   0   8000  ")), HasSubstr("look at " + remark));
+}
+
 }  // namespace
