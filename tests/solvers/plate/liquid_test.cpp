@@ -199,6 +199,10 @@ TEST(PlateProblem, SaysWhatIsWrong) {
         return p;
     }();
     EXPECT_FALSE(check(good));
+    static const std::vector<int> axis = {1, 4, 7, 10, 13, 16, 19, 22};
+    Problem symmetric = good;
+    symmetric.NODSX = axis;
+    EXPECT_FALSE(check(symmetric));
     struct {
         const char* field;
         void (*spoil)(Problem&);
@@ -227,17 +231,24 @@ TEST(PlateProblem, SaysWhatIsWrong) {
          [](Problem& p) {
              p.groups[0] = {{3, 0, 1, 0, 1, 1}};
          }},
-        {"XL1",
+        {"XL2",
          [](Problem& p) {
              p.groups[0] = {{2, 100, 121, 0, 1, 1}};
+         }},
+        {"YL2",
+         [](Problem& p) {
+             p.groups[0] = {{2, 0, 1, 50, 40, 1}};
          }},
         {"SUBMOD", [](Problem& p) { p.foundation.SUBMOD = 0; }},
         {"PRS", [](Problem& p) { p.foundation.kind = Solid, p.foundation.PRS = 0.6; }},
         {"NL", [](Problem& p) { p.foundation.kind = Layer; }},
         {"NODSX",
          [](Problem& p) {
-             p.foundation.kind = Solid, p.NODSX = {1, 5};
+             p.foundation.kind = Solid, p.NODSX = joined(axis, {3, 6, 9, 12, 15, 18, 21, 24});
          }},
+        {"NODSX", [](Problem& p) { p.NODSX = rowAt(p, 0); }},     // goes on along slab 2
+        {"NODSX", [](Problem& p) { p.NODSX = columnAt(p, 0); }},  // the other way
+        {"NODSY", [](Problem& p) { p.NODSY = columnAt(p, 1); }},  // not at an edge
     };
     for (const auto& [field, spoil] : rows) {
         Problem p = good;
