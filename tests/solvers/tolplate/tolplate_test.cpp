@@ -32,6 +32,8 @@ TEST(Tolplate, SinksAsARigidBodyInBothUnitSystems) {
             EXPECT_NEAR(number(row, "w"), test.w, 1e-6 * test.w);
             EXPECT_LT(std::abs(number(row, "s1")) + std::abs(number(row, "s2")), 1e-6 * test.QQ);
         }
+        EXPECT_NE(solved.text.find("Largest principal stress 0 "), std::string::npos)
+            << "no round-off in the text";
     }
 }
 
@@ -222,10 +224,19 @@ TEST(Tolplate, TellsWhatPassedItsBounds) {
     EXPECT_NE(deflected.text.find("at node NNCK = 1 passes FMAX = 0.01"), std::string::npos);
     s.FMAX = 0.0;
     s.NCYCLE = 2.0;
-    EXPECT_NE(solveSlabs(*store).text.find("NCYCLE = 2 cycles were used up"), std::string::npos);
+    const std::string settled = solveSlabs(*store).text;
+    EXPECT_NE(settled.find("NCYCLE = 2 cycles were used up"), std::string::npos);
+    EXPECT_EQ(settled.find("***"), std::string::npos) << "the check has brought it to an end";
     s.NCYCLE = 10.0;
     s.NWT = 1.0;
     EXPECT_EQ(solveSlabs(*store).text.find("***"), std::string::npos);
+    s.LAYER[1].GAMA = 0;
+    EXPECT_NE(solveSlabs(*store).text.find("*** NWT is 1, but GAMA of slab layer 1 is 0"), std::string::npos);
+    store->slab[2] = s;
+    store->SlabNPROB = 2.0;
+    store->slab[2].INPUT = 1.0;
+    EXPECT_NE(solveSlabs(*store).text.find("*** NWT is 1 with INPUT = 1: the weight acts once more"),
+              std::string::npos);
 }
 
 TEST(Tolplate, RefusesBadDecksWithASentence) {
@@ -246,7 +257,15 @@ TEST(Tolplate, RefusesBadDecksWithASentence) {
          },
          "NT1(1) is 0, card (11)"},
         {[](SlabSet& s) { s.NUDL[1] = 1, s.AREA[1][1] = {1.0, 0.0, 250.0, 0.0, 9.0, 9.0}; },
-         "XL1, card (15), data set 1, slab 1: Load group 1, area 1 must lie on slab 1"},
+         "XL2, card (15), data set 1, slab 1: Load group 1, area 1 must lie on slab 1, which goes from 0 to "
+         "240; "
+         "XL2 is 250."},
+        {[](SlabSet& s) {
+             s.NGAP = 1.0, s.GAP[1] = {1.0, .1};
+         },
+         "NGAP is 1, card (6), data set 1: it must be 0 when"},
+        {[](SlabSet& s) { s.NPY = 2, s.FSAF[2] = 1; },
+         "NCNF is 1, card (13), data set 1: it must be 0 unless"},
         {[](SlabSet& s) { s.INPUT = 1.0; }, "INPUT is 1, card (6), data set 1: there is no data set before"},
         {[](SlabSet& s) { s.NSLAB = 2, s.SLAB[2] = s.SLAB[1], s.NJOINT = 1, s.SLAB[1].JONO2 = 1; },
          "JONO, card (5), data set 1: Joint 1 must lie"},
@@ -272,6 +291,44 @@ TEST(Tolplate, RefusesBadDecksWithASentence) {
         EXPECT_NE(folder.read("SLAB.TXT").find("Not solved: "), std::string::npos);
         EXPECT_FALSE(std::filesystem::exists(folder.path() + "slab.pan")) << "results of another deck stay";
     }
+}
+
+TEST(Tolplate, RefusesADamageAnalysisOfOtherPoints) {
+    struct Case {
+        std::function<void(SlabSet&)> spoil;
+        std::string sentence;
+    };
+    const std::vector<Case> cases = {
+        {[](SlabSet& s) { s.NP[1] = 10; }, "NP(1) is 10, card (18)"},  // not on the axis
+        {[](SlabSet& s) { s.NP[2] = 20; }, "NP(2) is 20, card (18)"},  // not on the edge
+        {[](SlabSet& s) { s.NP[3] = 10; }, "NP(3) is 10, card (18)"},  // not outward
+        {[](SlabSet& s) { s.NSY = 8; }, "NSY is 8, card (6)"},
+        {[](SlabSet& s) { s.NSX = 1, s.NODSX[1] = 1; }, "NSX is 1, card (6)"},
+        {[](SlabSet& s) { s.NSLAB = 2, s.SLAB[2] = s.SLAB[1]; }, "NSLAB is 2, card (4)"},
+    };
+    for (const Case& test : cases) {
+        auto store = std::make_unique<Store>();
+        readSlabDeck(TOLMARK_SOURCE_DIR "/examples/PAN4.DAT", *store);
+        test.spoil(store->slab[1]);
+        EXPECT_NE(solveSlabs(*store).outcome.errors.find(test.sentence), std::string::npos) << test.sentence;
+    }
+}
+
+TEST(Tolplate, ContinuesWithTheSameSlabsOnly) {
+    auto store = std::make_unique<Store>();
+    readSlabDeck(TOLMARK_SOURCE_DIR "/examples/PAN2.DAT", *store);
+    const SlabSet good = store->slab[2];
+    const auto outcome = [&] { return solveSlabs(*store).outcome; };
+    store->slab[2].SUBMOD = 300.0;
+    EXPECT_EQ(outcome().status, SOLVED) << "moduli may differ";
+    store->slab[2].LAYER[1].T = 9;
+    EXPECT_NE(outcome().errors.find("T(1) is 9, card (10), data set 2: it must be 8"), std::string::npos);
+    store->slab[2] = good;
+    store->slab[2].NSX = 0;
+    EXPECT_NE(outcome().errors.find("NSX is 0, card (6), data set 2: it must be 9"), std::string::npos);
+    store->slab[2] = good;
+    store->slab[2].NCYCLE = 1.0;
+    EXPECT_NE(outcome().errors.find("NCYCLE is 1, card (6), data set 2"), std::string::npos);
 }
 
 TEST(Tolplate, RefusesWhatIsNoSlabDeck) {
