@@ -316,25 +316,20 @@ class Checker {
                 if (group(n) == group(chosen)) low = std::min(low, place(n)), high = std::max(high, place(n));
             const double slack = sameplace * (high - low), at = place(chosen);
             const bool outer = at <= low + slack || at >= high - slack;
-            if (Fault* f =
-                    demand(outer, field,
-                           std::string(field) +
-                               ": the axis of symmetry must stand at an edge of the slabs, "
-                               "and node " +
-                               std::to_string(chosen) + " lies on none along " + (across == 0 ? "y." : "x.")))
-                f->node = chosen;
-            if (Fault* f = demand(!spreads || std::abs(at - place(nodes[0])) <= slack, field,
-                                  std::string(field) + ": node " + std::to_string(chosen) +
-                                      " does not lie on the axis of symmetry of the nodes before."))
-                f->node = chosen;
+            const auto demandNode = [&](bool good, int node, const std::string& text) {
+                if (Fault* f = demand(good, field, "Node " + std::to_string(node) + text)) f->node = node;
+            };
+            const std::string along = across == 0 ? "along y" : "along x";
+            demandNode(outer, chosen,
+                       " is no node of the axis of symmetry, which is an edge of the slabs " + along + ".");
+            demandNode(!spreads || std::abs(at - place(nodes[0])) <= slack, chosen,
+                       " does not lie on the axis of symmetry " + along + " of the nodes before.");
             for (int n = 1; n <= mesh.count() && !fault_; ++n)
                 if (group(n) == group(chosen) && std::abs(place(n) - at) <= slack)
-                    if (Fault* f =
-                            demand(std::ranges::find(nodes, n) != nodes.end(), field,
-                                   std::string(field) + ": node " + std::to_string(n) +
-                                       " stands on the axis of symmetry, too; all nodes of that grid line "
-                                       "must be listed."))
-                        f->node = n;
+                    demandNode(std::ranges::find(nodes, n) != nodes.end(), n,
+                               " lies on the axis of symmetry " + along + " of node " +
+                                   std::to_string(chosen) +
+                                   ", too; all nodes of that grid line must be listed.");
             if (fault_) return;
         }
     }
