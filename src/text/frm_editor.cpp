@@ -134,8 +134,8 @@ void frmEditor::open(const std::string& path) {
     if (txtEditor->isFixed()) {
         program_.dialogs.MsgBox(
             "This file has line ends or characters that would not come back the same when the text is saved. "
-            " "
-            "It can be read, printed and copied, but not changed.");
+            " It "
+            "can be read, printed and copied, but not changed.");
     }
 }
 

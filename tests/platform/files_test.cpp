@@ -33,12 +33,12 @@ TEST(Files, NamesResolveToTheOneFileThatIsThere) {
 
 TEST(Files, PatternsIgnoreCaseAndNamesComeSorted) {
     TemporaryDirectory folder;
-    for (const char* name : {"b.DAT", "A.dat", "c.Dat", "c.dat.bak", "dat", "a10.txt"})
+    for (const char* name : {"B.DAT", "a.dat", "c.Dat", "c.dat.bak", "dat", "a10.txt"})
         folder.write(name, "");
     std::filesystem::create_directory(folder.path() + "folder.dat");
     using ::testing::ElementsAre;
-    EXPECT_THAT(listFiles(folder.path(), "*.dat"), ElementsAre("A.dat", "b.DAT", "c.Dat"));
-    EXPECT_THAT(listFiles(folder.path(), "?.d*"), ElementsAre("A.dat", "b.DAT", "c.Dat", "c.dat.bak"));
+    EXPECT_THAT(listFiles(folder.path(), "*.dat"), ElementsAre("a.dat", "B.DAT", "c.Dat"));
+    EXPECT_THAT(listFiles(folder.path(), "?.d*"), ElementsAre("a.dat", "B.DAT", "c.Dat", "c.dat.bak"));
     EXPECT_THAT(listFiles(folder.path(), "*.exe"), ElementsAre());
     EXPECT_THAT(listFiles(folder.path() + "none", "*"), ElementsAre());
 }

@@ -16,20 +16,6 @@ inline const char* const linearTandem = R"(1
 0 0 0 6.75 24 6.75
 )";
 
-/// The same physical pavement in SI units.
-inline const char* const linearTandemSi = R"(1
-"Three layers, dual tandem"
-1 0 1 1
-3 4 1
-10.16 21.59
-.35 .3 .45
-0 5.08 10.16 50.8
-3447380 206843 51711
-2 11.4902 689.476
-3 121.92 34.29
-0 0 0 17.145 60.96 17.145
-)";
-
 /// Granular base on a clay subgrade under one wheel: two constants for layer 2, four for layer 3.
 inline const char* const nonlinear = R"(1
 "Nonlinear, single wheel"

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
@@ -18,14 +18,20 @@ constexpr float margin = Kernel::QMargin;
 
 using Field = std::function<float(float x, float y)>;
 
+using Levels = std::vector<Contours::Level>;
+using Points = std::vector<std::pair<float, float>>;
+
 /// A slab with these grid lines and its field, traced over the whole page: x runs to the right from 0 to the
 /// last grid line, y up.
 struct Traced {
-    PanProblem pan;
     Kernel q;
-    Contours contours;
+    std::vector<PageLine> segments;  ///< in the slab's units
+    std::string labels;
 
-    Traced(const std::vector<float>& xs, const std::vector<float>& ys, const Field& field) {
+    Traced(const std::vector<float>& xs, const std::vector<float>& ys, const Field& field,
+           const Levels& levels, const Variant& forceAtNode1 = 0, Single CBOT = -1000) {
+        PanProblem pan;
+        Contours contours;
         pan.LN = 1;
         pan.NX[1] = static_cast<Integer>(xs.size());
         pan.NY[1] = static_cast<Integer>(ys.size());
@@ -33,116 +39,78 @@ struct Traced {
         for (int j = 1; j <= pan.NY[1]; ++j) pan.Y[1][j] = ys[static_cast<std::size_t>(j - 1)];
         for (int i = 1; i <= pan.NX[1]; ++i)
             for (int j = 1; j <= pan.NY[1]; ++j) contours.SGRID[i][j] = field(pan.X[1][i], pan.Y[1][j]);
-        contours.CBOT = -1000;
+        pan.NCNF = 1, pan.NN[1] = 1, pan.FF[1] = forceAtNode1;
+        contours.CBOT = CBOT, contours.levels = levels;
         q.QScreen();
         q.QPlotSetup(0, 100, 0, 100, 0, xs.back(), 0, ys.back());
+        QCntou(q, pan, contours);
+        for (PageLine line : opsOf<PageLine>(q.page())) {
+            for (float* x : {&line.x1, &line.x2}) *x = (*x - margin) / Kernel::pageWidth * xs.back();
+            for (float* y : {&line.y1, &line.y2}) *y = (1 - (*y - margin) / Kernel::pageHeight) * ys.back();
+            segments.push_back(line);
+        }
+        for (const Written& label : textsOf(q.page())) labels += label.text + " ";
     }
-    void trace() { QCntou(q, pan, contours); }
-
-    float realX(float device) const { return (device - margin) / Kernel::pageWidth * q.QWin.RX2; }
-    float realY(float device) const { return (1 - (device - margin) / Kernel::pageHeight) * q.QWin.RY2; }
-    std::vector<PageLine> segments() const { return opsOf<PageLine>(q.page()); }
-    std::vector<Written> labels() const { return textsOf(q.page()); }
 };
 
 TEST(ContourTracer, APlaneHasItsStraightLines) {
     // s = x + 2y on a grid of unequal steps; no level meets a grid point.
     const Field plane = [](float x, float y) { return x + 2 * y - 7; };
-    Traced t({0, 1, 3, 4.5F, 8}, {0, 2, 2.5F, 6}, plane);
-    for (const float c : {10.3F, 3.3F, 0.0F + 0.1F, -3.7F}) t.contours.levels.push_back({c, c == 3.3F});
-    t.trace();
+    const Levels levels = {{10.3F, false}, {3.3F, true}, {0.1F, false}, {-3.7F, false}};
+    const Traced t({0, 1, 3, 4.5F, 8}, {0, 2, 2.5F, 6}, plane, levels);
     std::map<float, double> drawn;
-    for (const PageLine& line : t.segments()) {
-        const float x1 = t.realX(line.x1), y1 = t.realY(line.y1), x2 = t.realX(line.x2),
-                    y2 = t.realY(line.y2);
-        const float value = plane(x1, y1);
-        const auto level = std::find_if(t.contours.levels.begin(), t.contours.levels.end(),
-                                        [&](const auto& l) { return std::abs(l.c - value) < 1e-4F; });
-        ASSERT_NE(level, t.contours.levels.end()) << x1 << " " << y1;
-        EXPECT_NEAR(plane(x2, y2), level->c, 1e-4);
+    for (const PageLine& line : t.segments) {
+        const auto level = std::find_if(levels.begin(), levels.end(), [&](const auto& l) {
+            return std::abs(l.c - plane(line.x1, line.y1)) < 1e-4F;
+        });
+        ASSERT_NE(level, levels.end()) << line.x1 << " " << line.y1;
+        EXPECT_NEAR(plane(line.x2, line.y2), level->c, 1e-4);
         EXPECT_EQ(line.colour, level->c >= 0 ? red : blue);
         EXPECT_EQ(line.dashed, !level->solid);
-        drawn[level->c] += std::hypot(x2 - x1, y2 - y1);
+        drawn[level->c] += std::hypot(line.x2 - line.x1, line.y2 - line.y1);
     }
     // Each line is whole: its length between the edges of the slab.
-    for (const auto& level : t.contours.levels) {
+    for (const auto& level : levels) {
         const double right = std::min(8.0, level.c + 7.0), top = std::min(6.0, (level.c + 7.0) / 2);
         const double x0 = level.c + 7 - 2 * top;
         EXPECT_NEAR(drawn[level.c], (right - x0) * std::sqrt(1.25), 1e-3) << level.c;
     }
-    EXPECT_FALSE(t.labels().empty());
-    for (const Written& label : t.labels()) {
-        EXPECT_EQ(label.text, "3.3");
-        EXPECT_EQ(label.size, 7);
-    }
+    EXPECT_TRUE(t.labels.starts_with("3.3 3.3 ")) << t.labels;
+    EXPECT_EQ(textStarting(t.q.page(), "3.3").size, 7);
     EXPECT_EQ(t.q.Font, (PageFont{"Courier New", 10}));
 }
 
-TEST(ContourTracer, ASaddleHasItsHyperbola) {
-    Traced t({0, 1, 2, 3, 4}, {0, 1, 2, 3, 4}, [](float x, float y) { return (x - 2) * (y - 2); });
-    t.contours.levels = {{0.5F, true}, {-0.5F, false}};
-    t.trace();
-    const auto segments = t.segments();
-    EXPECT_EQ(segments.size(), 2 * 2 * 3U) << "two branches a level, each through three cells";
-    for (const PageLine& line : segments)
-        for (const auto& [x, y] : {std::pair(line.x1, line.y1), {line.x2, line.y2}})
-            EXPECT_NEAR((t.realX(x) - 2) * (t.realY(y) - 2), line.colour == red ? 0.5 : -0.5, 1e-4);
-}
-
 TEST(ContourTracer, FourCrossingsFanOutOfTheFirst) {
-    Traced t({0, 1}, {0, 1}, [](float x, float y) { return x == y ? 1.0F : -1.0F; });
-    t.contours.levels = {{0, true}};
-    t.trace();
-    const auto segments = t.segments();
-    ASSERT_EQ(segments.size(), 3U);
-    const float ends[][2] = {{1, 0.5F}, {0.5F, 1}, {0, 0.5F}};
-    for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_NEAR(t.realX(segments[i].x1), 0.5, 1e-4);
-        EXPECT_NEAR(t.realY(segments[i].y1), 0, 1e-4);
-        EXPECT_NEAR(t.realX(segments[i].x2), ends[i][0], 1e-4);
-        EXPECT_NEAR(t.realY(segments[i].y2), ends[i][1], 1e-4);
+    const Traced t({0, 1}, {0, 1}, [](float x, float y) { return x == y ? 1.0F : -1.0F; }, {{0, true}});
+    const Points ends = {{1, 0.5F}, {0.5F, 1}, {0, 0.5F}};
+    ASSERT_EQ(t.segments.size(), ends.size());
+    for (std::size_t i = 0; i < ends.size(); ++i) {
+        const PageLine& line = t.segments[i];
+        EXPECT_LT(std::hypot(line.x1 - 0.5F, line.y1), 1e-4) << i;
+        EXPECT_LT(std::hypot(line.x2 - ends[i].first, line.y2 - ends[i].second), 1e-4) << i;
     }
-    EXPECT_EQ(t.labels().size(), 1U) << "the first segment's";
+    EXPECT_EQ(t.labels, "0. ") << "the first segment's";
 }
 
 TEST(ContourTracer, ACornerOnTheLevelCountsForTheLabel) {
     // Level 1 runs from corner to corner, level 0 touches one corner only.
-    Traced t({0, 1}, {0, 1}, [](float x, float y) { return x + y; });
-    t.contours.levels = {{1, true}, {0.5F, true}, {0, true}};
-    t.trace();
-    const auto segments = t.segments();
-    ASSERT_EQ(segments.size(), 5U);
-    const auto isPoint = [](const PageLine& line) { return line.x1 == line.x2 && line.y1 == line.y2; };
-    EXPECT_TRUE(isPoint(segments[0]) && !isPoint(segments[1]) && !isPoint(segments[2]));
-    EXPECT_TRUE(!isPoint(segments[3]) && isPoint(segments[4]));
-    // The first segment of the cell has no length, so only the fourth, of level 0.5, is labelled.
-    ASSERT_EQ(t.labels().size(), 1U);
-    EXPECT_EQ(t.labels()[0].text, "0.5");
+    const Levels levels = {{1, true}, {0.5F, true}, {0, true}};
+    const Traced t(
+        {0, 1}, {0, 1}, [](float x, float y) { return x + y; }, levels);
+    std::string kinds;
+    for (const PageLine& line : t.segments)
+        kinds += line.x1 == line.x2 && line.y1 == line.y2 ? "point " : "line ";
+    EXPECT_EQ(kinds, "point line line line point ");
+    EXPECT_EQ(t.labels, "0.5 ") << "the fourth segment's: the first one has no length";
 }
 
 TEST(ContourTracer, AForceAtTheCellMovesItsLabel) {
-    const std::vector<Contours::Level> levels = {{4.5F, true}, {3.5F, true}, {2.5F, true}, {1.5F, true}};
-    const auto labels = [&](const Variant& force) {
-        Traced t({0, 1}, {0, 1}, [](float x, float) { return 5 * x; });
-        t.contours.levels = levels;
-        t.pan.NCNF = 1;
-        t.pan.NN[1] = 1;
-        t.pan.FF[1] = force;
-        t.trace();
-        std::string all;
-        for (const Written& label : t.labels()) all += label.text + " ";
-        return all;
-    };
-    EXPECT_EQ(labels(0), "4.5 1.5 ");
-    EXPECT_EQ(labels(500), "1.5 ");
-}
-
-TEST(ContourTracer, LevelsBelowTheBoundOrTheCellAreNotDrawn) {
-    Traced t({0, 1}, {0, 1}, [](float x, float) { return 5 * x; });
-    t.contours.levels = {{4, false}, {3, false}, {2, false}, {-1, false}};
-    t.contours.CBOT = 3;
-    t.trace();
-    EXPECT_EQ(t.segments().size(), 2U);
+    const Field slope = [](float x, float) { return 5 * x; };
+    const Levels levels = {{4.5F, true}, {3.5F, true}, {2.5F, true}, {1.5F, true}};
+    EXPECT_EQ(Traced({0, 1}, {0, 1}, slope, levels).labels, "4.5 1.5 ");
+    EXPECT_EQ(Traced({0, 1}, {0, 1}, slope, levels, 500).labels, "1.5 ");
+    EXPECT_EQ(Traced({0, 1}, {0, 1}, slope, levels, 0, 3).segments.size(), 2U) << "below the bound";
+    EXPECT_EQ(Traced({0, 1}, {0, 1}, slope, {{2, false}, {-1, false}}).segments.size(), 1U);
 }
 
 struct Asked {
@@ -150,33 +118,27 @@ struct Asked {
     std::vector<ContourPage> pages;
 };
 
-Asked plotted(const std::string& text, int& DIRN, const std::string& answer = "anything") {
+Asked plotted(const std::string& text) {
+    int DIRN = 0;
     ContourPlot plot(ListReader::fromText(text), DIRN);
     Asked asked;
     const auto ask = [&](const ContourPage&, const std::string& prompt, const std::string& proposal) {
         asked.prompts.push_back(prompt + "|" + proposal);
-        return answer;
+        return "anything";
     };
     while (auto page = plot.next(ask)) asked.pages.push_back(*page);
-    EXPECT_EQ(plot.ended(), answer.empty());
+    EXPECT_FALSE(plot.ended());
     return asked;
 }
 
-Asked plotted(const std::string& text) {
-    int DIRN = 0;
-    return plotted(text, DIRN);
-}
-
 TEST(ContourPlot, FourPagesForTwoLayers) {
-    int DIRN = 0;
-    const Asked asked = plotted(oneSlab, DIRN);
-    EXPECT_EQ(DIRN, 3);
-    const char* captions[] = {"PROBLEM  1, SLAB LAYER  1, STRESSES IN X DIRECTION",
-                              "PROBLEM  1, SLAB LAYER  2, STRESSES IN X DIRECTION",
-                              "PROBLEM  1, SLAB LAYER  1, STRESSES IN Y DIRECTION",
-                              "PROBLEM  1, SLAB LAYER  2, STRESSES IN Y DIRECTION"};
-    ASSERT_EQ(asked.pages.size(), 4U);
-    for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(asked.pages[i].caption, captions[i]);
+    const Asked asked = plotted(oneSlab);
+    std::vector<std::string> captions;
+    for (const ContourPage& page : asked.pages) captions.push_back(page.caption);
+    ASSERT_THAT(captions, testing::ElementsAre("PROBLEM  1, SLAB LAYER  1, STRESSES IN X DIRECTION",
+                                               "PROBLEM  1, SLAB LAYER  2, STRESSES IN X DIRECTION",
+                                               "PROBLEM  1, SLAB LAYER  1, STRESSES IN Y DIRECTION",
+                                               "PROBLEM  1, SLAB LAYER  2, STRESSES IN Y DIRECTION"));
     // -300 and 250.5 are within -4 and 3 hundreds: a range of 7.
     EXPECT_EQ(asked.prompts[0], "Contour Interval in  100 psi| .2");
     EXPECT_EQ(asked.prompts[2], "Contour Interval in  10 psi| .2");
@@ -247,22 +209,15 @@ TEST(ContourPlot, LevelsAreCountedInSingles) {
     const Asked asked = plotted(oneCell);
     ASSERT_EQ(asked.pages.size(), 2U);
     EXPECT_EQ(asked.pages[0].caption, "PROBLEM  1, STRESSES IN X DIRECTION");
-    const Page& page = asked.pages[0].page;
-    int red20 = 0, dotted = 0;
-    for (const PageLine& line : opsOf<PageLine>(page)) {
-        red20 += line.colour == red || line.colour == blue;
-        dotted += line.dashed;
-    }
-    EXPECT_EQ(red20, 20);
-    EXPECT_EQ(dotted, 10);
-    EXPECT_EQ(opsOf<PageCircle>(page).size(), 1U) << "extremes of 0 are not marked";
-}
-
-TEST(ContourPlot, AnEmptyAnswerEndsIt) {
-    int DIRN = 0;
-    const Asked asked = plotted(oneSlab, DIRN, "");
-    EXPECT_EQ(asked.prompts.size(), 1U);
-    EXPECT_TRUE(asked.pages.empty());
+    const auto levelsOf = [&](std::size_t page) {
+        std::string levels;
+        for (const PageLine& line : opsOf<PageLine>(asked.pages[page].page))
+            if (line.colour == red || line.colour == blue) levels += line.dashed ? "." : "-";
+        return levels;
+    };
+    EXPECT_EQ(levelsOf(0), ".-.-.-.-.-.-.-.-.-.-");
+    EXPECT_NE(levelsOf(1), levelsOf(0)) << "the other direction's stresses";
+    EXPECT_EQ(opsOf<PageCircle>(asked.pages[0].page).size(), 1U) << "extremes of 0 are not marked";
 }
 
 TEST(ContourPlot, RunsThatDoNotQualifyAreRejectedBeforeTheirLoads) {
@@ -279,20 +234,15 @@ TEST(ContourPlot, RunsThatDoNotQualifyAreRejectedBeforeTheirLoads) {
 
 TEST(ContourPlot, NodesThatTheTableLacksAreFaults) {
     EXPECT_THROW(plotted(replaced(oneCell, "4 1\n-.95 0", "3 1\n")), RunTimeError);
-    // A force on another slab takes the table's number there, or a 0 behind it.
-    const std::string forced = replaced(oneCell, "\n0 0 0 0\n1\n", "\n1 0 0 0\n8 500\n1\n");
+    // A force on another slab takes the table's number there, or a 0 behind it; the grid has a column for it.
+    std::string forced = replaced(oneCell, "\n0 0 0 0\n1\n", "\n1 0 0 0\n8 500\n1\n");
     EXPECT_EQ(plotted(forced).pages.size(), 2U);
-    std::string wide = replaced(forced, "2 2 0 0 0 0", "2 25 0 0 0 0");
-    wide =
-        replaced(wide, "0 40 0 30", "0 40 0 1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24");
-    wide = replaced(
-        wide, "4 1\n-.95 0 -.95 0 1.05 0 1.05 0", "50 1\n" + [] {
-            std::string zeros;
-            for (int i = 0; i < 100; ++i) zeros += "0 ";
-            return zeros;
-        }());
-    EXPECT_EQ(plotted(replaced(wide, "8 500", "420 500")).pages.size(), 2U);
-    EXPECT_THROW(plotted(replaced(wide, "8 500", "421 500")), RunTimeError);
+    std::string rows, zeros;
+    for (int row = 0; row < 25; ++row) rows += " " + std::to_string(row), zeros += " 0 0 0 0";
+    forced = replaced(replaced(forced, "2 2 0 0 0 0", "2 25 0 0 0 0"), " 0 30", rows);
+    forced = replaced(forced, "4 1\n-.95 0 -.95 0 1.05 0 1.05 0", "50 1\n" + zeros);
+    EXPECT_EQ(plotted(replaced(forced, "8 500", "420 500")).pages.size(), 2U);
+    EXPECT_THROW(plotted(replaced(forced, "8 500", "421 500")), RunTimeError);
 }
 
 }  // namespace

@@ -2,9 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include <cfloat>
-
-#include "support/faults.h"
+#include "platform/run_time_error.h"
 #include "support/page_reading.h"
 
 namespace {
@@ -18,34 +16,16 @@ Kernel sectionWindow() {
     return q;
 }
 
-TEST(Kernel, FaultsOfTheMappingAreRunTimeErrors) {
-    const auto mapping = [](Single RX2, Single RY1, Single x) {
-        Kernel q;
-        q.QScreen();
-        q.QPlotSetup(13, 53, 34, 63, 0, RX2, RY1, 0);
-        return faultOf([&] { q.QRtoI(x, 5); });
-    };
-    EXPECT_EQ(mapping(0, 10, 5), Fault::DivisionByZero);
-    EXPECT_EQ(mapping(100, 0, 5), Fault::DivisionByZero);
-    EXPECT_EQ(mapping(FLT_MIN, 10, 1e30F), Fault::Overflow);
-}
-
 TEST(Kernel, NumbersAreRoundedInTheirVariable) {
-    struct Case {
-        Single value;
-        const char* format;
-        Single kept;
-        const char* shown;
-    };
-    const Case singles[] = {{5, "##0.0", 5, " 5 "},
-                            {12.34F, "##0.0", 12.3F, " 12.3 "},
-                            {-0.25F, "##0.0", -0.3F, "-.3 "},
-                            {0.35F, "0.###", 0.35F, " .35 "},
-                            {1234567, "0.000E+00", 1235000, " 1235000 "}};
-    for (const Case& c : singles) {
-        Single value = c.value;
-        EXPECT_EQ(formatInPlace(value, c.format), c.shown);
-        EXPECT_EQ(value, c.kept);
+    const std::tuple<Single, const char*, Single, const char*> singles[] = {
+        {5, "##0.0", 5, " 5 "},
+        {12.34F, "##0.0", 12.3F, " 12.3 "},
+        {-0.25F, "##0.0", -0.3F, "-.3 "},
+        {0.35F, "0.###", 0.35F, " .35 "},
+        {1234567, "0.000E+00", 1235000, " 1235000 "}};
+    for (auto [value, format, kept, shown] : singles) {
+        EXPECT_EQ(formatInPlace(value, format), shown);
+        EXPECT_EQ(value, kept);
     }
     Long modulus = 1234567;
     EXPECT_EQ(formatInPlace(modulus, "#.###E+##"), " 1235000 ");

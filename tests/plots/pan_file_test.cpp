@@ -8,6 +8,7 @@
 
 #include "plots/pan_samples.h"
 #include "support/temporary_directory.h"
+#include "support/text_change.h"
 
 namespace {
 
@@ -41,22 +42,15 @@ std::string written(const std::vector<PanRun>& runs) {
 TEST(PanFile, ItemsStandWhereTheyBelong) {
     const PanRun one = readAll(oneSlab).at(0);
     EXPECT_EQ(one.problem.areas[1][2].QQ, 50) << "English pressures stay";
-    EXPECT_EQ(one.problem.FF[1], Variant(500));
     EXPECT_EQ(one.problem.SX[1][2], -3);
     EXPECT_EQ(one.problem.SY[12][2], 48);
     EXPECT_EQ(one.results[1][1].layers[2].NMAX, 6);
     EXPECT_EQ(one.results[1][1].layers[2].SPLY, 10);
 
     const PanRun two = readAll(twoSlabsDamage).at(0);
-    EXPECT_EQ(two.problem.JONO[2][1], 1);
     EXPECT_EQ(two.problem.areas[1][1].QQ, 0.05F) << "kPa on square centimetres as kN";
     EXPECT_EQ(two.problem.E[2], 100000.5F);
-    EXPECT_EQ(two.problem.TNLR[1][2], 3000);
-    EXPECT_EQ(two.results[2][2].layers[1].SMAX, -1200);
-    EXPECT_EQ(two.results[2][1].CIDX[1], 0.03F);
-    EXPECT_EQ(two.problem.DESLIFE, 20.5F);
-    std::string otherUnit = twoSlabsDamage;
-    otherUnit.replace(otherUnit.find("1 1 0 1\n"), 8, "1 1 0 2\n");
+    const std::string otherUnit = replaced(twoSlabsDamage, "1 1 0 1\n", "1 1 0 2\n");
     EXPECT_EQ(readAll(otherUnit).at(0).problem.areas[1][1].QQ, 500);
 }
 
@@ -99,16 +93,14 @@ TEST(PanFile, ListsBeyondThePlotsAreWrittenButNotRead) {
 }
 
 TEST(PanFile, WhatIsNotANumberIsNotWritten) {
-    TemporaryDirectory directory;
-    directory.write("slab.PAN", "old");
+    const TemporaryDirectory directory;
+    const std::string file = directory.path() + "slab.PAN";
     std::vector<PanRun> runs = readAll(oneSlab);
+    writePanFile(file, runs);
     runs[0].results[1][1].layers[1].SMAX = std::numeric_limits<Single>::quiet_NaN();
-    EXPECT_THROW(writePanFile(directory.path() + "slab.PAN", runs), RunTimeError);
-    EXPECT_EQ(directory.read("slab.PAN"), "old");
-    runs[0].results[1][1].layers[1].SMAX = 1;
-    writePanFile(directory.path() + "slab.PAN", runs);
+    EXPECT_THROW(writePanFile(file, runs), RunTimeError);
     PanReader reader(directory.path() + "slab.pan");
-    EXPECT_EQ(readAll(reader).at(0).results[1][1].layers[1].SMAX, 1);
+    EXPECT_EQ(readAll(reader).at(0).results[1][1].layers[1].SMAX, -210.1234F) << "the old file stays";
 }
 
 }  // namespace

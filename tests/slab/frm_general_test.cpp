@@ -12,16 +12,19 @@ class SlabGeneral : public SlabScreens {
     }
     void open() { form = screens.load("frmGeneral"); }
     void ok() { click(*form, "cmdOk"); }
-    bool isOpen() { return screens.loaded("frmGeneral") != nullptr; }
+    void refused(const char* message) {
+        dialogs.expectBox(message);
+        ok();
+        EXPECT_TRUE(dialogs.finished() && isOpen("frmGeneral")) << message;
+    }
+    void accepted() {
+        ok();
+        EXPECT_FALSE(isOpen("frmGeneral"));
+    }
     std::string lbl(const std::string& label) { return word("frmPANFORM", label); }
 
     Form* form;
 };
-
-const char* const damageRefusal =
-    "Damage analysis is limited to edge loading involving only one slab symmetry with respect to y axis, as "
-    "shown in Example PAN4.  NPRINT must be equal to 3 and NSY to the number of nodes on the y axis of "
-    "symmetry";
 
 TEST_F(SlabGeneral, ShowsTheStoreAndSaysDoneOnEntering) {
     EXPECT_EQ(form->caption(), "General Information of PANFORM for Set No.  1");
@@ -50,14 +53,11 @@ TEST_F(SlabGeneral, EveryBoxGoesToItsField) {
     int value = -2;
     for (const auto& [box, field] : boxes) type(*form, box, std::to_string(value--));
     type(*form, "txtNdama", "0");
-    ok();
-    EXPECT_FALSE(isOpen());
+    accepted();
+    EXPECT_EQ(set.NDAMA, 0);
+    set.NDAMA = -3;
     value = -2;
-    for (const auto& [box, field] : boxes) {
-        const int expected = std::string(box) == "txtNdama" ? 0 : value;
-        EXPECT_EQ(set.*field, expected) << box;
-        --value;
-    }
+    for (const auto& [box, field] : boxes) EXPECT_EQ(set.*field, value--) << box;
 }
 
 TEST_F(SlabGeneral, RefusalsStayWithWhatIsStored) {
@@ -73,28 +73,27 @@ TEST_F(SlabGeneral, RefusalsStayWithWhatIsStored) {
         {{{"txtNjoint", "8"}, {"txtNat2", "3"}}, "NLG should not be greater than 7"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.message);
         screens.unload("frmGeneral");
         set = singleSlabStore()->slab[1];
         open();
         for (const auto& [box, text] : row.typed) type(*form, box, text);
-        dialogs.expectBox(row.message);
-        ok();
-        EXPECT_TRUE(isOpen());
-        EXPECT_TRUE(dialogs.finished());
+        refused(row.message);
     }
     EXPECT_EQ(set.NJOINT, 8);
     EXPECT_EQ(set.NAT2, 3) << "all boxes are stored before a limit is tested";
 
     type(*form, "txtNjoint", "7");
     form->control<TextBox>("txtTitle").setTextValue("");
-    dialogs.expectBox("TITLE should not be left blank.");
-    ok();
+    refused("TITLE should not be left blank.");
     EXPECT_EQ(set.NJOINT, 8) << "no box is read after a refused title";
     form->control<TextBox>("txtTitle").setTextValue(std::string(67, 'x') + ";");
-    type(*form, "txtNlg", "8");
-    ok();
-    EXPECT_FALSE(isOpen());
+    for (const auto& [box, most] : {std::pair("txtNpy", "12"),
+                                    {"txtNlg", "12"},
+                                    {"txtNslab", "6"},
+                                    {"txtNbond", "1"},
+                                    {"txtNlayer", "2"}})
+        type(*form, box, most);
+    accepted();
 }
 
 TEST_F(SlabGeneral, NumbersAreRoundedToSixteenBits) {
@@ -102,9 +101,7 @@ TEST_F(SlabGeneral, NumbersAreRoundedToSixteenBits) {
     type(*form, "txtNpy", "3.5");
     type(*form, "txtNlg", "32767.5");
     type(*form, "txtNlayer", "2");
-    dialogs.expectBox("Overflow");
-    ok();
-    EXPECT_TRUE(isOpen());
+    refused("Overflow");
     EXPECT_EQ(set.NFOUND, 2);
     EXPECT_EQ(set.NPY, 4);
     EXPECT_EQ(set.NLG, 1);
@@ -112,23 +109,21 @@ TEST_F(SlabGeneral, NumbersAreRoundedToSixteenBits) {
 }
 
 TEST_F(SlabGeneral, WordsChangeBeforeTheDamageTestRefuses) {
-    screens.done("frmPANFORM", "lblJoint");
-    screens.done("frmPANFORM", "lblDamage");
-    screens.done("frmPANFORM", "lblUniform");
-    type(*form, "txtNdama", "1");
-    type(*form, "txtNjoint", "2");
-    type(*form, "txtNpy", "4");
-    type(*form, "txtNsx", "3");
-    dialogs.expectBox(damageRefusal);
-    ok();
-    EXPECT_TRUE(isOpen());
-    EXPECT_EQ(lbl("lblJoint") + " " + lbl("lblAdjust") + " " + lbl("lblOptional"), "done! input! input!");
+    for (const char* label : {"lblJoint", "lblDamage", "lblUniform"}) screens.done("frmPANFORM", label);
+    for (const auto& [box, text] :
+         {std::pair("txtNdama", "1"), {"txtNjoint", "2"}, {"txtNpy", "4"}, {"txtNsx", "3"}})
+        type(*form, box, text);
+    refused(
+        "Damage analysis is limited to edge loading involving only one slab symmetry with respect to y axis, "
+        "as shown in Example PAN4.  NPRINT must be equal to 3 and NSY to the number of nodes on the y axis "
+        "of "
+        "symmetry");
+    EXPECT_EQ(lbl("lblJoint") + lbl("lblAdjust") + lbl("lblOptional") + lbl("lblDamage"),
+              "done!input!input!done");
     EXPECT_EQ(lbl("lblUniform"), "input!") << "a done is overwritten there";
-    EXPECT_EQ(lbl("lblDamage"), "done");
     type(*form, "txtNprint", "3");
     type(*form, "txtNsy", "9");
-    ok();
-    EXPECT_FALSE(isOpen());
+    accepted();
     EXPECT_EQ(lbl("lblDamage"), "done!");
 }
 

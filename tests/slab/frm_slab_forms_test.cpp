@@ -1,7 +1,6 @@
 // The forms behind the main menu of slab input: values, menus of the second level,
 // and the board of slabs.
 #include "support/slab_screens.h"
-#include "text/pages.h"
 
 namespace {
 
@@ -9,8 +8,13 @@ class SlabForms : public SlabScreens {
   protected:
     SlabForms() { screens.load("frmPANFORM"); }
 
-    Form& load(const std::string& name) { return *screens.load(name); }
-    bool isOpen(const std::string& name) { return screens.loaded(name) != nullptr; }
+    /// What the shared selectors say of the table that came up, which is closed again.
+    std::string opened(const std::string& table) {
+        EXPECT_TRUE(isOpen(table));
+        screens.unload(table);
+        return std::to_string(store.TableKind) + ": " + std::to_string(store.TblLines) + " x " +
+               std::to_string(store.GridCols);
+    }
     std::string lbl(const std::string& label) { return word("frmPANFORM", label); }
 };
 
@@ -19,41 +23,54 @@ TEST_F(SlabForms, CurlingStoresTenValuesAndAsksForListsAgain) {
     set.NJOINT = 1;
     Form& form = load("frmCurling");
     EXPECT_EQ(lbl("lblCurling"), "done");
-    EXPECT_EQ(caption("frmCurling", "lblFmax"),
-              "Maximum allowable deflection in in.                                                        "
-              "(FMAX)");
     screens.done("frmPANFORM", "lblJoint");
     screens.done("frmPANFORM", "lblOptional");
-    const char* boxes[] = {"txtNotCon", "txtNgap", "txtInput", "txtNtemp", "txtNwt",
-                           "txtNcycle", "txtTemp", "txtCt",    "txtDel",   "txtFmax"};
-    const char* texts[] = {"5", "0", "1", "1", "1", "10", "-12.5", "5E-6", ".01", "2"};
-    for (std::size_t i = 0; i < std::size(boxes); ++i) type(form, boxes[i], texts[i]);
+    const struct {
+        const char *box, *text;
+        Variant SlabSet::*field;
+    } rows[] = {{"txtNotCon", "5", &SlabSet::NOTCON}, {"txtNgap", "0", &SlabSet::NGAP},
+                {"txtInput", "2", &SlabSet::INPUT},   {"txtNtemp", "3", &SlabSet::NTEMP},
+                {"txtNwt", "4", &SlabSet::NWT},       {"txtNcycle", "10", &SlabSet::NCYCLE},
+                {"txtTemp", "-12.5", &SlabSet::TEMP}, {"txtCt", "5E-6", &SlabSet::CT},
+                {"txtDel", ".01", &SlabSet::DEL},     {"txtFmax", "6", &SlabSet::FMAX}};
+    for (const auto& row : rows) type(form, row.box, row.text);
     dialogs.expectBox("When NFOUND > 0 and NCYCLE > 1, NOTCON should always be 0.");
     click(form, "cmdOk");
     EXPECT_TRUE(isOpen("frmCurling"));
     EXPECT_EQ(lbl("lblJoint"), "done");
-    EXPECT_EQ(set.FMAX, Variant(2)) << "stored all the same";
-    EXPECT_EQ(set.TEMP, Variant(-12.5));
-    EXPECT_EQ(set.CT, Variant(5e-6));
+    for (const auto& row : rows)
+        EXPECT_EQ((set.*row.field).number(), ToDouble(row.text)) << "stored all the same";
 
     set.NFOUND = 0;
     set.TC = 2;
-    click(form, "cmdOk");
-    EXPECT_FALSE(isOpen("frmCurling"));
-    EXPECT_EQ(lbl("lblJoint") + lbl("lblOptional"), "input!input!");
+    for (const auto& [NOTCON, NGAP] : {std::pair("5", "0"), {"0", "5"}}) {
+        screens.done("frmPANFORM", "lblOptional");
+        Form& again = load("frmCurling");
+        type(again, "txtNotCon", NOTCON);
+        type(again, "txtNgap", NGAP);
+        click(again, "cmdOk");
+        EXPECT_FALSE(isOpen("frmCurling"));
+        EXPECT_EQ(lbl("lblJoint") + lbl("lblOptional"), "input!input!");
+    }
     EXPECT_EQ(set.TC, 2) << "the status is not this form's";
 }
 
 TEST_F(SlabForms, CaptionsFollowTheUnits) {
-    set.NUNIT = 2;
-    load("frmCurling");
-    load("frmSolid");
-    load("frmDowel");
-    EXPECT_NE(caption("frmCurling", "lblTemp").find("bottom in C "), std::string::npos);
-    EXPECT_NE(caption("frmCurling", "lblCt").find("per C "), std::string::npos);
-    EXPECT_NE(caption("frmCurling", "lblFmax").find("in cm "), std::string::npos);
-    EXPECT_NE(caption("frmSolid", "lblYms").find("in kPa "), std::string::npos);
-    EXPECT_NE(caption("frmDowel", "lblYmsb").find("in kPa "), std::string::npos);
+    const struct {
+        const char *form, *label, *english, *si;
+    } rows[] = {{"frmCurling", "lblTemp", "bottom in F ", "bottom in C "},
+                {"frmCurling", "lblCt", "per F ", "per C "},
+                {"frmCurling", "lblFmax", "in in. ", "in cm "},
+                {"frmSolid", "lblYms", "in psi ", "in kPa "},
+                {"frmDowel", "lblYmsb", "in psi ", "in kPa "}};
+    for (const auto& row : rows) {
+        for (const bool si : {false, true}) {
+            set.NUNIT = si ? 2 : 0;
+            load(row.form);
+            EXPECT_NE(caption(row.form, row.label).find(si ? row.si : row.english), std::string::npos);
+            screens.unload(row.form);
+        }
+    }
 }
 
 TEST_F(SlabForms, SolidFoundationNeedsBothValues) {
@@ -83,80 +100,62 @@ TEST_F(SlabForms, OnlyOneBoxOfTheDowelsIsEmptiedByAClick) {
     EXPECT_EQ(word("frmOptional", "lblDowel"), "done");
 }
 
-TEST_F(SlabForms, OptionalListsAskWhereTheirCountIsNotZero) {
+TEST_F(SlabForms, MenusOfTheSecondLevelSelectTheirTables) {
     const struct {
-        const char *menu, *label, *count;
+        const char *form, *control, *table, *selected;
         void (*set)(SlabSet& s);
-        int TableKind, cols;
     } rows[] = {
-        {"mnuNat1", "lblNat1", "NAT1", [](SlabSet& s) { s.NAT1 = 4; }, 212, 3},
-        {"mnuNat2", "lblNat2", "NAT2", [](SlabSet& s) { s.NAT2 = 4; }, 213, 3},
-        {"mnuNotcon", "lblNotcon", "NOTCON", [](SlabSet& s) { s.NOTCON = 4.0; }, 214, 2},
-        {"mnuNprint", "lblNprint", "NPRINT", [](SlabSet& s) { s.NPRINT = 4; }, 215, 2},
-        {"mnuNsx", "lblNsx", "NSX", [](SlabSet& s) { s.NSX = 4; }, 216, 2},
-        {"mnuNsy", "lblNsy", "NSY", [](SlabSet& s) { s.NSY = 4; }, 217, 2},
-        {"mnuNgap", "lblNgap", "NGAP", [](SlabSet& s) { s.NGAP = 4.0; }, 218, 3},
+        {"frmOptional", "lblNat1", "frmspreadb", "212: 4 x 3", [](SlabSet& s) { s.NAT1 = 4; }},
+        {"frmOptional", "lblNat2", "frmspreadb", "213: 4 x 3", [](SlabSet& s) { s.NAT2 = 4; }},
+        {"frmOptional", "lblNotcon", "frmspreadb", "214: 4 x 2", [](SlabSet& s) { s.NOTCON = 4.0; }},
+        {"frmOptional", "lblNprint", "frmspreadb", "215: 4 x 2", [](SlabSet& s) { s.NPRINT = 4; }},
+        {"frmOptional", "lblNsx", "frmspreadb", "216: 4 x 2", [](SlabSet& s) { s.NSX = 4; }},
+        {"frmOptional", "lblNsy", "frmspreadb", "217: 4 x 2", [](SlabSet& s) { s.NSY = 4; }},
+        {"frmOptional", "lblNgap", "frmspreadb", "218: 4 x 3", [](SlabSet& s) { s.NGAP = 4.0; }},
+        {"frmSlabData", "mnuArrangement", "frmSpread2", "203: 1 x 3", [](SlabSet&) {}},
+        {"frmSlabData", "lblArrange", "frmSpread2", "203: 2 x 7", [](SlabSet& s) { s.NSLAB = 2; }},
+        {"frmSlabData", "mnuProperties", "frmSpread3", "208: 1 x 4", [](SlabSet&) {}},
+        {"frmSlabData", "lblProperties", "frmSpread3", "208: 2 x 5",
+         [](SlabSet& s) { s.NLAYER = 2, s.NWT = 1; }},
+        {"frmDamage", "mnuFatigue", "frmSpread3", "205: 1 x 2", [](SlabSet& s) { s.NDAMA = 1; }},
+        {"frmDamage", "lblFatigue", "frmSpread3", "205: 2 x 4", [](SlabSet& s) { s.NDAMA = s.NLAYER = 2; }},
     };
-    Form* form = &load("frmOptional");
-    EXPECT_EQ(form->caption(), "Other Optional Information for Data Set No.  1");
     for (const auto& row : rows) {
-        EXPECT_EQ(word("frmOptional", row.label), "default");
-        dialogs.expectBox("You don't have to click this menu because " + std::string(row.count) + " = 0");
-        click(*form, row.menu);
-    }
-    dialogs.expectBox("You don't have to click this menu because NJOINT = 0");
-    click(*form, "lblDowel");
-    EXPECT_TRUE(dialogs.finished());
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.menu);
-        screens.unload("frmOptional");
+        SCOPED_TRACE(row.selected);
+        screens.unload(row.form);
         set = singleSlabStore()->slab[1];
         row.set(set);
-        form = &load("frmOptional");
-        EXPECT_EQ(word("frmOptional", row.label), "input!");
+        Form& form = load(row.form);
+        const bool isList = form.name() == "frmOptional";
+        EXPECT_EQ(isList ? word("frmOptional", row.control) : "input!", "input!");
         store.CurSlabDS = 2;  // chosen on the main menu meanwhile: this form stays with its own
-        click(*form, row.label);
+        click(form, row.control);
         EXPECT_EQ(store.CurSlabDS, 1);
-        EXPECT_EQ(store.TableKind, row.TableKind);
-        EXPECT_EQ(store.TblLines, 4);
-        EXPECT_EQ(store.GridCols, row.cols);
-        EXPECT_TRUE(isOpen("frmspreadb"));
-        screens.unload("frmspreadb");
+        EXPECT_EQ(opened(row.table), row.selected);
     }
-    set.NJOINT = 1;
-    click(*form, "mnuDowel");
-    EXPECT_TRUE(isOpen("frmDowel"));
-    click(*form, "cmdOk");
-    EXPECT_EQ(lbl("lblOptional"), "done");
 }
 
-TEST_F(SlabForms, SlabDataTakesItsTablesShapeFromTheLeft) {
-    Form& form = load("frmSlabData");
-    EXPECT_EQ(form.caption(), "Slab Information for Data Set No 1");
-    const struct {
-        Integer NSLAB, NLAYER;
-        Variant NWT;
-        const char *menu, *table;
-        int TableKind, lines, cols;
-    } rows[] = {
-        {1, 1, 0, "mnuArrangement", "frmSpread2", 203, 1, 3},
-        {2, 1, 0, "lblArrange", "frmSpread2", 203, 2, 7},
-        {2, 1, 0, "mnuProperties", "frmSpread3", 208, 1, 4},
-        {2, 2, 1.0, "lblProperties", "frmSpread3", 208, 2, 5},
-    };
-    for (const auto& row : rows) {
-        set.NSLAB = row.NSLAB;
-        set.NLAYER = row.NLAYER;
-        set.NWT = row.NWT;
-        click(form, row.menu);
-        EXPECT_TRUE(isOpen(row.table));
-        EXPECT_EQ(store.TableKind, row.TableKind);
-        EXPECT_EQ(store.TblLines, row.lines);
-        EXPECT_EQ(store.GridCols, row.cols);
-        screens.unload(row.table);
+TEST_F(SlabForms, OptionalMenusRefuseWhereTheirCountIsZero) {
+    Form& form = load("frmOptional");
+    EXPECT_EQ(form.caption(), "Other Optional Information for Data Set No.  1");
+    for (const auto& [label, count] : {std::pair("lblNat1", "NAT1"),
+                                       {"lblNat2", "NAT2"},
+                                       {"lblNotcon", "NOTCON"},
+                                       {"lblNprint", "NPRINT"},
+                                       {"lblNsx", "NSX"},
+                                       {"lblNsy", "NSY"},
+                                       {"lblNgap", "NGAP"},
+                                       {"lblDowel", "NJOINT"}}) {
+        EXPECT_EQ(word("frmOptional", label), "default");
+        dialogs.expectBox("You don't have to click this menu because " + std::string(count) + " = 0");
+        click(form, label);
+        EXPECT_TRUE(dialogs.finished());
     }
-    click(form, "cmdOK");
-    EXPECT_EQ(lbl("lblSlab"), "done!");
+    set.NJOINT = 1;
+    click(form, "mnuDowel");
+    EXPECT_TRUE(isOpen("frmDowel"));
+    click(form, "cmdOk");
+    EXPECT_EQ(lbl("lblOptional"), "done");
 }
 
 TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
@@ -164,6 +163,7 @@ TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
     set.SLAB[2].NX = 4;
     set.SLAB[2].NY = 5;
     Form& data = load("frmSlabData");
+    EXPECT_EQ(data.caption(), "Slab Information for Data Set No 1");
     click(data, "mnuXcoordinate");
     Form* board = screens.loaded("frmSlabs");
     ASSERT_NE(board, nullptr);
@@ -171,47 +171,38 @@ TEST_F(SlabForms, TheBoardHasAButtonPerSlab) {
     EXPECT_EQ(board->control<Button>("cmdSlab2").caption(), "Slab&2");
     EXPECT_EQ(word("frmSlabs", "lblSlab2"), "Input!");
     EXPECT_EQ(board->control<Button>("cmdSlab3").caption() + caption("frmSlabs", "lblSlab3"), "");
+    set.SLAB[3].NX = 4;
     dialogs.expectBox("NX or NY for slab 3 in the 'Arrange' menu is 0");
     click(*board, "cmdSlab3");
     click(*board, "cmdSlab2");
     EXPECT_EQ(store.CurSlab, 2);
-    EXPECT_EQ(store.TblLines, 4);
-    EXPECT_EQ(store.TableKind, 206);
-    screens.unload("frmspreadb");
+    EXPECT_EQ(opened("frmspreadb"), "206: 4 x 2");
 
     click(data, "lblYcoord");
     board = screens.loaded("frmSlabs");
     EXPECT_EQ(board->caption(), "Y Coordinates of Each Slab for Data Set No.  1");
     click(*board, "cmdSlab2");
-    EXPECT_EQ(store.TblLines, 5);
-    EXPECT_EQ(store.TableKind, 207);
+    EXPECT_EQ(opened("frmspreadb"), "207: 5 x 2");
     screens.done("frmSlabs", "lblSlab2");
     click(*board, "cmdOk");
     EXPECT_EQ(word("frmSlabData", "lblYcoord") + word("frmSlabData", "lblXcoord"), "done!input!");
     click(data, "mnuXcoordinate");
     EXPECT_EQ(word("frmSlabs", "lblSlab2"), "Input!") << "anew at every opening";
+    click(data, "cmdOK");
+    EXPECT_EQ(lbl("lblSlab"), "done!");
 }
 
-TEST_F(SlabForms, DamageAsksForWhatItsCriterionNeeds) {
+TEST_F(SlabForms, DamageLeadsToTheTrafficOfEachPeriod) {
     set.NDAMA = 1;
     set.NPY = 3;
     Form& form = load("frmDamage");
     EXPECT_EQ(form.caption(), "Damage Analysis for Data Set N0. 1");
-    click(form, "mnuFatigue");
-    EXPECT_EQ(store.TableKind, 205);
-    EXPECT_EQ(store.GridCols, 2);
-    screens.unload("frmSpread3");
-    set.NDAMA = set.NLAYER = 2;
-    click(form, "lblFatigue");
-    EXPECT_EQ(store.TblLines, 2);
-    EXPECT_EQ(store.GridCols, 4);
     click(form, "mnuVolume");
-    Form* board = screens.loaded("frmPeriod");
-    ASSERT_NE(board, nullptr);
-    click(*board, "cmdPeriod3");
-    EXPECT_EQ(store.TableKind, 225);
+    Form& board = load("frmPeriod");
+    click(board, "cmdPeriod3");
+    EXPECT_EQ(opened("frmspreadb"), "225: 1 x 2");
     EXPECT_EQ(store.CurPeriod, 3);
-    click(*board, "cmdOk");
+    click(board, "cmdOk");
     EXPECT_EQ(word("frmDamage", "lblVolume"), "done!");
     click(form, "cmdOk");
     EXPECT_EQ(lbl("lblDamage"), "done");

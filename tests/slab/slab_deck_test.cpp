@@ -1,9 +1,8 @@
 #include "slab/slab_deck.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <cstdlib>
-#include <sstream>
 
 #include "platform/run_time_error.h"
 #include "store/deck_kind.h"
@@ -14,14 +13,6 @@
 namespace {
 
 using Outcome = DeckReadResult::Outcome;
-
-std::string deckOf(const Store& store) {
-    std::ostringstream stream;
-    ListWriter out(stream);
-    saveSlabDeck(store, out);
-    out.close();
-    return stream.str();
-}
 
 DeckReadResult read(const std::string& deck, Store& store) {
     ListReader in = ListReader::fromText(deck);
@@ -86,7 +77,8 @@ std::unique_ptr<Store> fullStore() {
     auto store = singleSlabStore();
     SlabSet& s = store->slab[1];
     s.NSLAB = 2;
-    s.NJOINT = s.NDAMA = 1;
+    s.NJOINT = s.NDAMA = s.TC = 1;
+    s.NTEMP = s.CL = 1;
     s.SLAB[2] = s.SLAB[1];
     s.SLAB[1].JONO2 = s.SLAB[2].JONO1 = 1;
     s.NLAYER = 2;
@@ -108,22 +100,17 @@ std::unique_ptr<Store> fullStore() {
     s.NODSY[1] = 2;
     s.GAP[1] = {4, .125};
     s.SUBGRADE[1] = {3, 50};
-    s.JOINT[1] = {.SPCON1 = 0,
-                  .SPCON2 = 0,
-                  .SCKV = 1500000,
-                  .BD = 1,
-                  .BS = 12,
-                  .WJ = .2,
-                  .GDC = 0,
-                  .NNAJ = 2,
-                  .BARNO = {}};
+    s.FOUNDATION[1] = {6, 20000, .4};
+    s.YMS = 7500;
+    s.PRS = .45;
+    s.JOINT[1] = {0, 0, 1500000, 1, 12, .2, 0, 2, {}};
     s.JOINT[1].BARNO[1] = .5;
     s.TNLR[1][1] = 1000;
     s.TNLR[1][2] = 2.76e17;
     return store;
 }
 
-constexpr const char* lists =
+const std::string lists =
     " 1   2.5   (11) NT T| 2   3   (11) NT T| 1   0   (12) NUDL| 2   (13) NCNF| 1   1   (14) NNMX NNMY|"
     " 1   0   10   0   12.5   80   (15) LS XL1 XL2 YL1 YL2 QQ|"
     " 1   123456.789   2  -1E+20   (16) NN FF| 3   .5   (16) NNX FMX| 4  -.25   (16) NNY FMY|"
@@ -136,51 +123,47 @@ constexpr const char* dowels =
 TEST(SlabDeck, ListsFoundationsJointsAndDamage) {
     const auto store = fullStore();
     SlabSet& s = store->slab[1];
-    const auto end = [&] { return linesAfter(deckOf(*store), "(10) T PR YM"); };
-    EXPECT_NE(deckOf(*store).find("\r\n 8   .15   4000000   4   .2   3500000   (10) T PR YM\r\n"),
-              std::string::npos);
-    EXPECT_EQ(end(), std::string(lists) + " 1   100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
-    s.NFOUND = 3;  // only 1 and 2 are told apart
-    EXPECT_EQ(end(), std::string(lists) + " 1   100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|" + dowels);
-    s.NFOUND = 1;
-    s.YMS = 7500;
-    s.PRS = .45;
-    EXPECT_EQ(end(), std::string(lists) + " 7500   .45   (28) YMS PRS|" + dowels);
-    s.NFOUND = 2;
+    const std::string liquid = " 1   100   (24) NAS SUBMOD| 3   50   (25) NS SUBMOD|";
     const struct {
+        Integer NFOUND;
         int NL;
-        const char* cards;
-    } rows[] = {{0, " 0   30   (30) NL MAXIC|"},
-                {1, " 1   30   (30) NL MAXIC| 20000   (32) E| .4   (33) PRBF|"},
-                {2, " 2   30   (30) NL MAXIC| 6   (31) TH| 20000   0   (32) E| .4   0   (33) PRBF|"}};
-    s.FOUNDATION[1] = {6, 20000, .4};
+        std::string cards;
+    } rows[] = {{0, 0, liquid},
+                {3, 0, liquid},  // only 1 and 2 are told apart
+                {1, 0, " 7500   .45   (28) YMS PRS|"},
+                {2, 0, " 0   30   (30) NL MAXIC|"},
+                {2, 1, " 1   30   (30) NL MAXIC| 20000   (32) E| .4   (33) PRBF|"},
+                {2, 2, " 2   30   (30) NL MAXIC| 6   (31) TH| 20000   0   (32) E| .4   0   (33) PRBF|"}};
+    for (const char* line :
+         {"\n 3   2   0   1   0   0   (5) NX", "\n 8   .15   4000000   4   .2   3500000   (10)"})
+        EXPECT_NE(deckOf(*store).find(line), std::string::npos) << line;
     for (const auto& row : rows) {
+        s.NFOUND = row.NFOUND;
         s.NL = row.NL;
-        EXPECT_EQ(end(), std::string(lists) + row.cards + dowels);
+        EXPECT_EQ(linesAfter(deckOf(*store), "(10) T PR YM"), lists + row.cards + dowels);
     }
 }
+
+/// UL, TC and CL.
+std::string status(const SlabSet& s) { return s.UL.text() + numberText(s.TC) + s.CL.text(); }
 
 TEST(SlabDeck, StatusFollowsFromTheRestOfTheDeck) {
     const auto store = singleSlabStore();
     SlabSet& s = store->slab[1];
     const struct {
         Integer NUDL, NNMY;
-        Variant NTEMP, NCYCLE;
-        int UL, TC, CL;
-    } rows[] = {{1, 0, 0, 1, 1, 2, 2}, {0, 1, 0, 1, 2, 2, 1}, {0, 0, 1, 1, 2, 1, 2}, {1, 0, 0, 10, 1, 1, 2}};
+        int NTEMP, NCYCLE;
+        const char* status;
+    } rows[] = {{1, 0, 0, 1, "122"}, {0, 1, 0, 1, "221"}, {0, 0, 1, 1, "212"}, {1, 0, 0, 10, "112"}};
     for (const auto& row : rows) {
         s.NUDL[1] = row.NUDL;
         s.NNMY = row.NNMY;
         s.NTEMP = row.NTEMP;
         s.NCYCLE = row.NCYCLE;
         s.UL = "9";
-        s.TC = 9;
-        s.CL = 9.0;
         const auto again = std::make_unique<Store>();
         ASSERT_EQ(read(deckOf(*store), *again).sentence(), "");
-        EXPECT_EQ(again->slab[1].UL, Variant(row.UL));
-        EXPECT_EQ(again->slab[1].TC, row.TC);
-        EXPECT_EQ(again->slab[1].CL, Variant(row.CL));
+        EXPECT_EQ(status(again->slab[1]), row.status);
     }
 }
 
@@ -201,15 +184,8 @@ TEST(SlabDeck, RandomStoresKeepTheirValues) {
         ASSERT_EQ(readSlabDeck(in, *again).sentence(), "");
         EXPECT_TRUE(in.endOfFile() || in.nextItem().empty());
         ASSERT_EQ(again->SlabNPROB, store->SlabNPROB);
-        for (int n = 1; n <= store->SlabNPROB.number(); ++n) {
-            const auto expected = valuesOf(store->slab[n], slabCards()),
-                       values = valuesOf(again->slab[n], slabCards());
-            ASSERT_EQ(values.size(), expected.size());
-            for (std::size_t i = 0; i < values.size(); ++i) {
-                ASSERT_EQ(values[i].first, expected[i].first);
-                ASSERT_EQ(values[i].second, expected[i].second) << values[i].first;
-            }
-        }
+        for (int n = 1; n <= store->SlabNPROB.number(); ++n)
+            ASSERT_EQ(valuesOf(again->slab[n], slabCards()), valuesOf(store->slab[n], slabCards()));
         const std::string text = deckOf(*again);  // texts have become numbers: from here on it stays
         const auto third = std::make_unique<Store>();
         ASSERT_EQ(read(text, *third).outcome, Outcome::Complete);
@@ -243,8 +219,7 @@ std::string middleDeck(const std::string& deck) {
 TEST(SlabDeck, MiddleGenerationHasUnitsButNoStatus) {
     const auto store = fullStore();
     SlabSet& s = store->slab[1];
-    s.NUNIT = s.TC = 1;  // the status that the deck does not have, and that is computed
-    s.NTEMP = s.CL = 1;
+    s.NUNIT = 1;
     s.NOTCON = s.NGAP = s.NAS = 1;
     s.AREA[1][1].XL2 = 10;
     const std::string deck = deckOf(*store);
@@ -284,30 +259,21 @@ TEST(SlabDeck, OldestGenerationDiffersInThreePlaces) {
     EXPECT_EQ(s.FORCE[2].FF, 2000);
     EXPECT_EQ(s.LAYER[1].GAMA, 14) << "13.5 to the even neighbour";
     EXPECT_EQ(s.LAYER[2].GAMA, 40) << "40.5 likewise";
-    EXPECT_EQ(s.UL, Variant(1));
-    EXPECT_EQ(s.TC, 2);
-    EXPECT_EQ(s.CL, Variant(1));
+    EXPECT_EQ(status(s), "121");
     EXPECT_NE(deckOf(*store).find(" 0  0  1  2  1 " + std::string(label6) + "\r\n 0  14   40   0"),
               std::string::npos);
 
-    const std::string deck = oldDeck;
-    const struct {
-        std::string text;
-        const char* sentence;
-    } rows[] = {
-        {replaced(replaced(replaced(deck, " 0  0  1  2  (3)", " 0  0  1  4  (3)"), " 1  0  (12)",
-                           " 1  0  0  0  (12)"),
-                  " 2  7  (13)", " 2  7  8  9  (13)"),
-         "line 12: NCNF(4), card (13), data set 1: more than a data file can hold"},
-        {replaced(deck, ".0234375", "150"),
-         "line 13: GAMA(2), card (13), data set 1: 150 per cubic inch is out of range"},
-    };
-    for (const auto& row : rows) EXPECT_EQ(read(row.text, *store).sentence(), row.sentence);
+    std::string many = replaced(oldDeck, " 0  0  1  2  (3)", " 0  0  1  4  (3)");
+    many = replaced(replaced(many, " 1  0  (12)", " 1  0  0  0  (12)"), " 2  7  (13)", " 2  7  8  9  (13)");
+    EXPECT_EQ(read(many, *store).sentence(),
+              "line 12: NCNF(4), card (13), data set 1: more than a data file can hold");
+    EXPECT_EQ(read(replaced(oldDeck, ".0234375", "150"), *store).sentence(),
+              "line 13: GAMA(2), card (13), data set 1: 150 per cubic inch is out of range");
     EXPECT_EQ(s.LAYER[1].GAMA, 14) << "converted in front of the one that failed";
 
     // Without forces the moments' counts bring no card either.
-    std::string none =
-        replaced(replaced(deck, " 2  7  (13)", " 0  7  (13)"), " 1  1000  2  2000  (16)\r\n", "");
+    const std::string none =
+        replaced(replaced(oldDeck, " 2  7  (13)", " 0  7  (13)"), " 1  1000  2  2000  (16)\r\n", "");
     EXPECT_EQ(read(none, *store).sentence(), "");
 }
 
@@ -331,7 +297,8 @@ TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
         {replaced(deck, " 1  (1)", " 3  (1)") + deck.substr(deck.find("Single")) + "T\r\n", Outcome::Failed,
          "line 32: data set 3: more than a data file can hold"},
         {replaced(deck, "Single slab", "Single, slab"), Outcome::Failed,
-         "line 2: NFOUND, card (3), data set 1: \"slab\" is no number; has the title a comma, which ends it?"},
+         "line 2: NFOUND, card (3), data set 1: \"slab\" is no number; has the title a comma, which ends "
+         "it?"},
         {"", Outcome::Failed, "line 1: NPROB, card (1): the file ends here"},
     };
     for (const auto& row : rows) {
@@ -342,30 +309,22 @@ TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
     }
 }
 
-TEST(SlabDeck, FilesAreWrittenWholeAndFoundIgnoringCase) {
+TEST(SlabDeck, AFileThatCannotBeWrittenWholeStays) {
     TemporaryDirectory folder;
     folder.write("slab.dat", "old");
     const auto store = singleSlabStore();
     store->slab[1].NPRINT = 200;
-    try {
-        saveSlabDeck(*store, folder.path() + "slab");
-        ADD_FAILURE() << "more nodes than the store has";
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.fault(), Fault::SubscriptOutOfRange);
-        EXPECT_TRUE(std::string(error.what()).ends_with("NP(121), card (18), data set 1")) << error.what();
-    }
+    EXPECT_THAT([&] { saveSlabDeck(*store, folder.path() + "slab"); },
+                testing::ThrowsMessage<RunTimeError>(testing::EndsWith("NP(121), card (18), data set 1")));
     EXPECT_EQ(folder.read("slab.dat"), "old");
     store->slab[1].NPRINT = 0;
     saveSlabDeck(*store, folder.path() + "slab");
     EXPECT_EQ(folder.read("slab.dat"), singleSlabDeck);
-    EXPECT_EQ(readSlabDeck(folder.path() + "SLAB.DAT", *store).outcome, Outcome::Complete);
-    EXPECT_EQ(readSlabDeck(folder.path() + "none.DAT", *store).outcome, Outcome::Failed);
+    EXPECT_EQ(readSlabDeck(folder.path() + "SLAB.DAT", *store).sentence(), "");
 }
 
 TEST(SlabDeck, ItsKindIsToldInEveryGeneration) {
     const auto store = fullStore();
-    store->slab[1].TC = 1;
-    store->slab[1].CL = 1;
     TemporaryDirectory folder;
     for (const std::string& deck : {deckOf(*store), middleDeck(deckOf(*store)), oldDeck}) {
         folder.write("deck.DAT", deck);

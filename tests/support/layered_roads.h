@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cmath>
+#include <functional>
 #include <memory>
+#include <numbers>
 #include <vector>
 
 #include "support/layered_stores.h"
@@ -30,6 +32,20 @@ inline std::unique_ptr<Store> nonlinearStore() {
     s.KPER[1][1][1] = 0, s.KPER[1][1][2] = 6000.0;
     s.KPER[2][1][1] = 1000.0, s.KPER[2][1][2] = 15000.0, s.KPER[2][1][3] = 7680.0;
     return store;
+}
+
+/// Times of creep tests, sec.
+inline const std::vector<double> HALF_DECADES = {.001, .003, .01, .03, .1, .3, 1, 3, 10, 30, 100};
+
+/// The step response f superposed with the load sin^2(pi t / duration) at its peak, by summation.
+inline double atPeak(double duration, const std::function<double(double)>& f) {
+    constexpr int STEPS = 20000;
+    const double step = duration / 2 / STEPS, rate = std::numbers::pi / duration;
+    const auto load = [&](double t) { return std::pow(std::sin(rate * t), 2); };
+    double sum = 0;
+    for (int i = 0; i < STEPS; ++i)
+        sum += f(duration / 2 - (i + .5) * step) * (load((i + 1) * step) - load(i * step));
+    return sum;
 }
 
 /// D(t) = D0 + D1 (1 - exp(-t/tau)).

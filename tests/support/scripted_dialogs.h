@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <string>
 
 #include "platform/dialogs.h"
@@ -30,8 +31,10 @@ class ScriptedDialogs : public Dialogs {
     bool finished() const { return boxes_.empty() && inputs_.empty() && files_.empty(); }
 
     FileQuestion lastFileQuestion;
+    std::function<void()> onQuestion = [] {};  ///< looks at the screen while a box stands there
 
     Answer MsgBox(const std::string& text, Buttons buttons, const std::string& title) override {
+        onQuestion();
         if (boxes_.empty()) {
             ADD_FAILURE() << "unexpected message: " << text;
             return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
@@ -45,6 +48,7 @@ class ScriptedDialogs : public Dialogs {
     }
     std::optional<std::string> InputBox(const std::string& prompt, const std::string&,
                                         const std::string&) override {
+        onQuestion();
         if (inputs_.empty()) {
             ADD_FAILURE() << "unexpected question: " << prompt;
             return std::nullopt;

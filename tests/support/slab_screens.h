@@ -16,6 +16,8 @@ class SlabScreens : public DeskScreens {
         store.SlabNPROB = 1;
     }
 
+    Form& load(const std::string& name) { return *screens.load(name); }
+    bool isOpen(const std::string& name) { return screens.loaded(name) != nullptr; }
     std::string caption(const std::string& form, const std::string& label) {
         return screens.loaded(form)->control<Label>(label).caption();
     }

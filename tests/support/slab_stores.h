@@ -3,8 +3,10 @@
 #pragma once
 
 #include <memory>
+#include <sstream>
 
 #include "slab/slab_cards.h"
+#include "slab/slab_deck.h"
 #include "slab/slab_rules.h"
 #include "store/store.h"
 #include "support/random_cells.h"
@@ -27,6 +29,14 @@ inline std::unique_ptr<Store> singleSlabStore() {
     s.AREA[1][1] = {1.0, 0.0, "10", 0.0, 12.5, 80.0};
     s.SUBMOD = 100.0;
     return store;
+}
+
+inline std::string deckOf(const Store& store) {
+    std::ostringstream stream;
+    ListWriter out(stream);
+    saveSlabDeck(store, out);
+    out.close();
+    return stream.str();
 }
 
 class RandomSlabStores : public RandomCells {

@@ -1,7 +1,7 @@
 // Solvers run on decks of a test: files and tables come back for inspection.
 #pragma once
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
@@ -11,6 +11,9 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+using testing::HasSubstr;
+using testing::Not;
 
 inline std::string example(const std::string& name) {
     std::ifstream file(std::string(TOLMARK_SOURCE_DIR "/examples/") + name, std::ios::binary);

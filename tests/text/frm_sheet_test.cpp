@@ -1,9 +1,8 @@
 // The manual and its sheets on the screen and on paper.
 #include "text/frm_sheet.h"
 
-#include <gmock/gmock.h>
-
 #include "support/layered_screens.h"
+#include "support/page_reading.h"
 #include "support/pictures.h"
 #include "support/window_checks.h"
 #include "text/frm_help1.h"
@@ -25,7 +24,7 @@ TEST_F(Texts, TheManualShowsOneSectionAtATimeAndPrintsIt) {
     for (int number = 1; number <= 10; ++number) {
         showManual(program, number);
         Form& help = *screens.loaded("frmHelp1");
-        const ManualSection& section = manualSections()[static_cast<std::size_t>(number - 1)];
+        const ManualSection& section = manualSections().at(static_cast<std::size_t>(number - 1));
         expectWellMade(help);
         EXPECT_EQ(help.control<Label>("Label1").caption(), section.title);
         EXPECT_EQ(help.control<HelpBox>("txtHelp1").textValue(), textPage(section.page, "\r\n"));
@@ -63,6 +62,7 @@ TEST_F(Texts, EverySheetShowsAndPrintsItsFigureAndItsText) {
 
         choose(form, sheet.mnuPrintText.c_str());
         ASSERT_FALSE(printer.jobs.empty());
+        EXPECT_EQ(text.textValue(), textPage(sheet.page, "\r\n"));
         EXPECT_TRUE(printer.jobs[0].lines[5].ends_with(text.toPlainText().section('\n', 0, 0).toStdString()));
         choose(form, "mnuExit");
         EXPECT_EQ(screens.loaded(sheet.form), nullptr);
@@ -70,18 +70,12 @@ TEST_F(Texts, EverySheetShowsAndPrintsItsFigureAndItsText) {
 }
 
 TEST_F(Texts, TheInputMenuOpensTheFailureEnvelope) {
-    Form& menu = *screens.load("frmBEDFORM");
-    click(menu, "mnuMohr");
+    click(*screens.load("frmBEDFORM"), "mnuMohr");
     Form* sheet = screens.loaded("frmMohr");
     ASSERT_NE(sheet, nullptr);
     const Page& page = sheet->control<PagePicture>("Image1").page();
-    for (const char* label : {"= Angle of internal friction", "= Vertical stress", "= Horizontal stress"}) {
-        const auto is = [&](const PageOp& op) {
-            const auto* text = std::get_if<PageText>(&op);
-            return text && text->text == label;
-        };
-        EXPECT_TRUE(std::any_of(page.ops.begin(), page.ops.end(), is)) << label;
-    }
+    for (const char* label : {"= Angle of internal friction", "= Vertical stress", "= Horizontal stress"})
+        EXPECT_EQ(textStarting(page, label).text, label);
 }
 
 }  // namespace

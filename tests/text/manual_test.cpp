@@ -1,4 +1,4 @@
-// The manual as a text: complete against the decks, in one layout, printed whole.
+// The manual and the help boxes as texts: complete against the decks, in one layout.
 #include "text/manual.h"
 
 #include <gmock/gmock.h>
@@ -8,9 +8,8 @@
 #include <sstream>
 
 #include "layered/layered_cards.h"
-#include "platform/print_text_box.h"
 #include "slab/slab_cards.h"
-#include "support/recording_printer.h"
+#include "support/page_reading.h"
 #include "text/figure.h"
 #include "text/pages.h"
 #include "text/sheets.h"
@@ -26,30 +25,39 @@ Lines linesOf(const std::string& text) {
     return lines;
 }
 
-/// The pages of sections and sheets, without what they include.
-std::map<std::string, Lines> ownLines() {
-    std::map<std::string, Lines> pages;
-    for (const ManualSection& section : manualSections()) pages[section.page];
-    for (const Sheet& sheet : sheets()) pages[sheet.page];
-    for (auto& [page, lines] : pages) lines = linesOf(embeddedPages().at(page));
-    return pages;
-}
+bool isDeck(const std::string& page) { return page.starts_with("BED") || page.starts_with("PAN"); }
 
 TEST(Manual, IsPlainTextThatFitsItsBoxAndItsPaper) {
-    for (const auto& [page, lines] : ownLines()) {
-        EXPECT_GT(lines.size(), 15U) << page;
-        for (const std::string& line : lines) {
+    for (const auto& [page, text] : embeddedPages()) {
+        if (isDeck(page)) continue;
+        for (const std::string& line : linesOf(text)) {
             EXPECT_LE(line.size(), 75U) << page << ": " << line;
-            EXPECT_FALSE(line.ends_with(' ') || line.find('\t') != std::string::npos) << page << ": " << line;
+            EXPECT_FALSE(line.ends_with(' ')) << page << ": " << line;
             const auto printable = [](char c) { return c >= ' ' && c <= '~'; };
             EXPECT_TRUE(std::all_of(line.begin(), line.end(), printable)) << page << ": " << line;
         }
     }
 }
 
+TEST(Manual, NumbersTheParagraphsOfHelpBoxes) {
+    int boxes = 0;
+    for (const auto& [page, text] : embeddedPages()) {
+        if (!page.starts_with("frm_")) continue;
+        ++boxes;
+        int found = 0;
+        for (const std::string& line : linesOf(text)) {
+            if (!line.starts_with('(')) continue;
+            EXPECT_TRUE(line.starts_with("(" + std::to_string(++found) + ")")) << page << ": " << line;
+        }
+        EXPECT_GE(found, 3) << page;
+    }
+    EXPECT_EQ(boxes, 25);
+}
+
 TEST(Manual, ShowsDecksInLinesThatFit) {
     for (const auto& [name, text] : embeddedPages()) {
-        if (!name.starts_with("BED") && !name.starts_with("PAN")) continue;
+        EXPECT_EQ(textPage(name, "\n").find("@include"), std::string::npos) << name;
+        if (!isDeck(name)) continue;
         std::string shown;
         for (const std::string& line : linesOf(textPage(name, "\n"))) {
             EXPECT_LE(line.size(), 75U) << name << ": " << line;
@@ -69,31 +77,8 @@ TEST(Manual, ShowsDecksInLinesThatFit) {
     }
 }
 
-TEST(Manual, PrintsEveryLineOfEveryPage) {
-    for (const auto& [page, lines] : ownLines()) {
-        RecordingPrinter printer;
-        PrintTextBox(printer, textPage(page, "\r\n"));
-        std::string printed;
-        for (const auto& job : printer.jobs)
-            for (const std::string& line : job.lines) printed += line + "\n";
-        for (const std::string& line : lines) {
-            if (line.starts_with("@include ")) continue;
-            EXPECT_NE(printed.find("           " + line + "\n"), std::string::npos) << page << ": " << line;
-        }
-    }
-}
-
 /// A card as the manual has it: its number, and its fields in order.
-struct Described {
-    int card;
-    Lines fields;
-    bool operator==(const Described&) const = default;
-};
-
-void PrintTo(const Described& d, std::ostream* out) {
-    *out << "(" << d.card << ")";
-    for (const std::string& field : d.fields) *out << " " << field;
-}
+using Described = std::pair<int, Lines>;
 
 /// "(5) NL NZ ICL NSTD NUNIT" with whatever follows it as a continuation in capitals.
 std::vector<Described> cardsOnPage(const std::string& page) {
@@ -114,7 +99,7 @@ std::vector<Described> cardsOnPage(const std::string& page) {
             open = false;
         }
         std::istringstream in(words);
-        for (std::string word; in >> word;) cards.back().fields.push_back(word);
+        for (std::string word; in >> word;) cards.back().second.push_back(word);
     }
     return cards;
 }
@@ -126,7 +111,7 @@ std::vector<Described> cardsOf(const CardTable<Set>& table) {
         for (const auto& card : block.cards) {
             cards.push_back({card.number, {}});
             for (const auto& run : card.runs)
-                for (const auto& field : run.fields) cards.back().fields.push_back(field.name);
+                for (const auto& field : run.fields) cards.back().second.push_back(field.name);
         }
     return cards;
 }
@@ -152,8 +137,8 @@ std::multiset<std::string> fieldsOnPage(const std::string& page) {
 void expectEveryField(const std::string& page, const std::vector<Described>& cards) {
     const auto described = fieldsOnPage(page);
     std::set<std::string> wanted;
-    for (const Described& card : cards)
-        for (const std::string& field : card.fields) wanted.insert(field.substr(0, field.find('(')));
+    for (const auto& [card, fields] : cards)
+        for (const std::string& field : fields) wanted.insert(field.substr(0, field.find('(')));
     for (const std::string& field : wanted) EXPECT_GE(described.count(field), 1U) << page << ": " << field;
     for (const std::string& field : described)
         EXPECT_TRUE(wanted.contains(field)) << page << ": " << field << " is no field";
@@ -166,10 +151,7 @@ TEST(Manual, DescribesEveryFieldOfTheDecks) {
         EXPECT_EQ(fieldsOnPage("manual_layered_input").count(twice), 2U) << twice << " of two materials";
 }
 
-TEST(Manual, SectionsAndSheetsHaveTheirTitles) {
-    EXPECT_EQ(manualSections().size(), 10U);
-    EXPECT_EQ(manualSections()[0].title, "Use of Main Screen");
-    EXPECT_EQ(manualSections()[9].title, "Examples for TOLPLATE");
+TEST(Manual, SheetsHaveTheirTitlesAndHeights) {
     const std::map<std::string, std::pair<std::string, int>> wanted = {
         {"frmBed1", {"Example 1: Linear Elastic Three-layer System under Dual-Tandem Tires", 4170}},
         {"frmBed2", {"Example 2: Nonlinear Elastic Two-layer System under a Circular Load", 3750}},
@@ -183,14 +165,11 @@ TEST(Manual, SectionsAndSheetsHaveTheirTitles) {
         {"frmPan4", {"Example 4:  Damage Analysis with Two Periods and Three Load Groups", 4450}},
         {"frmPan5", {"Example 5: Four Slabs on Layer Foundation with Partial Contact", 4400}},
         {"frmPan6", {"Example 6: Raft on Solid Foundation with Retaining Walls on three sides", 4900}},
-        {"frmMohr", {"Failure Envelope of Granular Materials", 3885}},
-    };
-    EXPECT_EQ(sheets().size(), wanted.size());
-    for (const Sheet& sheet : sheets()) {
-        ASSERT_TRUE(wanted.contains(sheet.form)) << sheet.form;
-        EXPECT_EQ(linesOf(embeddedPages().at(sheet.page)).front(), wanted.at(sheet.form).first);
-        EXPECT_EQ(sheet.printHeight, wanted.at(sheet.form).second) << sheet.form;
-    }
+        {"frmMohr", {"Failure Envelope of Granular Materials", 3885}}};
+    std::map<std::string, std::pair<std::string, int>> found;
+    for (const Sheet& sheet : sheets())
+        found[sheet.form] = {linesOf(embeddedPages().at(sheet.page)).front(), sheet.printHeight};
+    EXPECT_EQ(found, wanted);
 }
 
 TEST(Sheets, FiguresStandOnThePartThatIsPrinted) {
@@ -199,22 +178,16 @@ TEST(Sheets, FiguresStandOnThePartThatIsPrinted) {
         EXPECT_EQ(page.width, sheetWidth);
         EXPECT_LE(page.height, static_cast<float>(sheet.printHeight));
         EXPECT_GT(page.ops.size(), 20U) << sheet.form;
-        const auto inside = [&](float x, float y) {
-            return x >= 0 && x <= page.width && y >= 0 && y <= page.height;
+        const auto expectInside = [&](float x1, float y1, float x2, float y2) {
+            for (const float x : {x1, x2}) EXPECT_TRUE(x >= 0 && x <= page.width) << sheet.form << " " << x;
+            for (const float y : {y1, y2}) EXPECT_TRUE(y >= 0 && y <= page.height) << sheet.form << " " << y;
         };
-        for (const PageOp& op : page.ops) {
-            if (const auto* line = std::get_if<PageLine>(&op)) {
-                EXPECT_TRUE(inside(line->x1, line->y1) && inside(line->x2, line->y2)) << sheet.form;
-            } else if (const auto* text = std::get_if<PageText>(&op)) {
-                EXPECT_TRUE(inside(*text->x, *text->y + text->font.size * 25) &&
-                            inside(*text->x + widthOf(text->text, text->font.size), *text->y))
-                    << sheet.form << ": " << text->text;
-            } else if (const auto* circle = std::get_if<PageCircle>(&op)) {
-                EXPECT_TRUE(inside(circle->x - circle->radius, circle->y - circle->radius) &&
-                            inside(circle->x + circle->radius, circle->y + circle->radius))
-                    << sheet.form;
-            }
-        }
+        for (const PageLine& line : opsOf<PageLine>(page)) expectInside(line.x1, line.y1, line.x2, line.y2);
+        for (const PageText& text : opsOf<PageText>(page))
+            expectInside(*text.x, *text.y, *text.x + widthOf(text.text, text.font.size),
+                         *text.y + text.font.size * 25);
+        for (const PageCircle& c : opsOf<PageCircle>(page))
+            expectInside(c.x - c.radius, c.y - c.radius, c.x + c.radius, c.y + c.radius);
     }
 }
 

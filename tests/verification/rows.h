@@ -5,8 +5,8 @@
 
 namespace verification {
 
-/// A section with the head of its table.
-void head(const char* title, const char* text);
+/// A section with the head of its table. Rows whose error is not below `bound` are told, and fail the run.
+void head(const char* title, const char* text, double bound);
 
 /// One case. The error is relative to `scale`; `digits` is the number format of both values.
 void row(const std::string& name, const char* source, double expected, double computed, double scale,

@@ -1,14 +1,12 @@
 // Slabs on liquid, solid and layered foundations.
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-#include "solvers/plate/closed_forms.h"
 #include "solvers/plate/element.h"
 #include "solvers/plate/structure.h"
+#include "solvers/report_lines.h"
+#include "verification/closed_forms.h"
 #include "verification/rows.h"
 
 namespace verification {
@@ -18,9 +16,9 @@ using namespace plate;
 using enum FoundationKind;
 
 constexpr const char* digits = "%.6g";
-constexpr struct {
+const struct {
     FoundationKind kind;
-    const char* name;
+    std::string name;
 } foundations[] = {{Liquid, "liquid"}, {Solid, "solid"}, {Layer, "layered"}};
 
 Solution solved(const Problem& p) {
@@ -39,36 +37,27 @@ void nothing(const std::string& name, const char* source, double share) {
     row(name, source, 0, std::abs(share), 1, "%.6f");
 }
 
-std::string numbered(const char* format, double number) {
-    char text[64];
-    std::snprintf(text, sizeof text, format, number);
-    return text;
-}
-
 void rigidBodies() {
     head("Slabs: rigid bodies",
          "120 x 80 in., 10 in. of 4e6 psi, on a liquid foundation of 100 pci. The even pressure comes as "
-         "three "
-         "loaded areas that cut the unequal elements; stress as a share of 100 times the pressure. The stiff "
-         "slab, 4e12 psi, carries 1000 lb 36 in. right of and 20 in. below its centre; error relative to the "
-         "mean w.");
-    Problem even = oneSlab({0, 5, 40, 41, 90, 120}, {0, 30, 33, 80});
-    even.groups = {{{1, 0, 57.3, 0, 80, 2}, {1, 57.3, 120, 0, 11.1, 2}, {1, 57.3, 120, 11.1, 80, 2}}};
-    Problem weight = oneSlab({0, 5, 40, 41, 90, 120}, {0, 30, 33, 80});
+         "three loaded areas that cut the unequal elements; stress as a share of 100 times the pressure. The "
+         "stiff slab, 4e12 psi, carries 1000 lb 36 in. right of and 20 in. below its centre; error relative "
+         "to the mean w.",
+         1e-6);
+    Problem weight = oneSlab({0, 5, 40, 41, 90, 120}, {0, 30, 33, 80}), even = weight;
     weight.NWT = true;
+    even.groups = {{{1, 0, 57.3, 0, 80, 2}, {1, 57.3, 120, 0, 11.1, 2}, {1, 57.3, 120, 11.1, 80, 2}}};
     const struct {
-        const char* name;
+        std::string name;
         const Problem& problem;
         double q;
     } rows[] = {{"2 psi", even, 2}, {"weight alone, .0868 pci", weight, .868}};
     for (const auto& [name, problem, q] : rows) {
         const Solution s = solved(problem);
-        const auto& nodes = s.cases[0].nodes;
-        const auto [least, most] = std::minmax_element(
-            nodes.begin(), nodes.end(), [](const auto& a, const auto& b) { return a.w < b.w; });
-        same(std::string(name) + ", least w, in.", "q / k", q / 100, least->w);
-        same(std::string(name) + ", largest w, in.", "q / k", q / 100, most->w);
-        nothing(std::string(name) + ", largest stress", "no bending", largestStress(s.cases[0]) / (100 * q));
+        const auto [least, most] = std::ranges::minmax(s.cases[0].nodes, {}, &NodeResult::w);
+        same(name + ", least w, in.", "q / k", q / 100, least.w);
+        same(name + ", largest w, in.", "q / k", q / 100, most.w);
+        nothing(name + ", largest stress", "no bending", largestStress(s.cases[0]) / (100 * q));
     }
     Problem stiff = oneSlab(lines(120, 5), lines(80, 4));
     stiff.layers[0].YM = 4e12;
@@ -77,11 +66,10 @@ void rigidBodies() {
     for (const auto& [i, j] : {std::pair{0, 0}, {5, 0}, {0, 4}, {5, 4}}) {
         const double x = 24 * i - 60, y = 20 * j - 40, A = 120 * 80;
         const double w = 1000 / A * (1 + 12 * 36 * x / (120 * 120) - 12 * 20 * y / (80 * 80)) / 100;
-        row(numbered("stiff slab, corner at %g", x) + numbered(", %g in., w", y), "P/A + M x/I", w,
+        row(printed("stiff slab, corner at %g", x) + printed(", %g in., w", y), "P/A + M x/I", w,
             at(tilted, nodeAt(stiff, i, j)).w, 1000 / A / 100, digits);
     }
-    Problem loaded = oneSlab(lines(120, 6), lines(96, 4));
-    loaded.groups = {{{1, 10, 30, 0, 20, 80}}};
+    const Problem loaded = oneSlab(lines(120, 6), lines(96, 4), {{1, 10, 30, 0, 20, 80}});
     Problem heavy = loaded;
     heavy.NWT = true;
     same("largest stress under a wheel, with weight, psi", "without weight",
@@ -95,8 +83,7 @@ double forceInsidePatch() {
     const plate::Structure structure(p, mesh);
     Vector d(structure.unknowns());
     for (int n = 0; n < mesh.count(); ++n) {
-        const double x = mesh.nodes[static_cast<std::size_t>(n)].x,
-                     y = mesh.nodes[static_cast<std::size_t>(n)].y;
+        const auto& [slab, x, y, tributary] = mesh.nodes[static_cast<std::size_t>(n)];
         d.segment<3>(3 * n) << x * x - y * y / 2 + .3 * x * y, y - .3 * x, 2 * x + .3 * y;
     }
     const Vector force = structure.stiffness().selfadjointView<Eigen::Lower>() * d;
@@ -110,8 +97,9 @@ void elements() {
     head("Slabs: the element",
          "Patch of unequal elements under constant curvature. Free curl: 60 x 48 in. on next to no support, "
          "stress as a share of E CT TEMP. Convergence: a quarter-loaded slab of 96 x 72 in. between four "
-         "axes of "
-         "symmetry, at x = 24, y = 18 in., on n x n elements; the order is that of the step from 16 to 32.");
+         "axes of symmetry, at x = 24, y = 18 in., on n x n elements; the order is that of the step from 16 "
+         "to 32.",
+         .1);
     nothing("force inside the patch", "patch test", forceInsidePatch());
     Problem curl = oneSlab({0, 13, 50, 60}, {0, 22, 30, 48});
     curl.TEMP = 30, curl.CT = 5e-6;
@@ -122,15 +110,14 @@ void elements() {
          at(free, nodeAt(curl, 3, 1)).ry - at(free, nodeAt(curl, 0, 1)).ry);
     std::vector<double> errors[2];
     for (int n : {8, 16, 32}) {
-        Problem p = oneSlab(lines(96, n), lines(72, n));
-        p.groups = {{{1, 0, 48, 0, 36, 50}}};
+        Problem p = oneSlab(lines(96, n), lines(72, n), {{1, 0, 48, 0, 36, 50}});
         p.NODSX = joined(rowAt(p, 0), rowAt(p, n));
         p.NODSY = joined(columnAt(p, 0), columnAt(p, n));
         const Guided exact = guidedSlab(p.layers[0], 100, 96, 72, 48, 36, 50, 24, 18);
         const Solution s = solved(p);
         const NodeResult& node = at(s, nodeAt(p, n / 4, n / 4));
-        same(numbered("w, n = %g, in.", n), "cosine series", exact.w, node.w);
-        same(numbered("moment, n = %g, lb", n), "cosine series", exact.mx, node.layers[0].mx);
+        same(printed("w, n = %d, in.", n), "cosine series", exact.w, node.w);
+        same(printed("moment, n = %d, lb", n), "cosine series", exact.mx, node.layers[0].mx);
         errors[0].push_back(std::abs(node.w - exact.w));
         errors[1].push_back(std::abs(node.layers[0].mx - exact.mx));
     }
@@ -141,23 +128,23 @@ void elements() {
 void largeSlabs() {
     head("Slabs: large slabs against Hankel integrals",
          "100 psi on 20 x 20 in. in the middle; a quarter of the slab on a graded grid, 10 in. of 4e6 psi, "
-         "PR = "
-         ".15. Liquid: 100 pci, 600 in. square. Solid: E = 10000 psi, PR = .4, 800 in. square.");
-    Problem liquid = quarterSlab(graded(300, 32, 1.09), graded(300, 32, 1.09));
-    Problem solid = quarterSlab(graded(400, 22, 1.13), graded(400, 22, 1.13));
+         "PR = .15. Liquid: 100 pci, 600 in. square. Solid: E = 10000 psi, PR = .4, 800 in. square.",
+         1e-2);
+    const std::vector<LoadedArea> wheel{{1, 0, 10, 0, 10, 100}};
+    const Problem liquid = quarterSlab(graded(300, 32, 1.09), graded(300, 32, 1.09), wheel);
+    Problem solid = quarterSlab(graded(400, 22, 1.13), graded(400, 22, 1.13), wheel);
     solid.foundation.kind = Solid;
     const struct {
-        const char* name;
-        Problem& problem;
+        std::string name;
+        const Problem& problem;
         double (*bed)(double);
     } rows[] = {{"liquid", liquid, [](double) { return 100.; }},
                 {"solid", solid, [](double m) { return m * 1e4 / (2 * .84); }}};
     for (const auto& [name, problem, bed] : rows) {
-        problem.groups = {{{1, 0, 10, 0, 10, 100}}};
         const Centre exact = infinitePlate(problem.layers[0], 100, 10, bed);
         const Solution s = solved(problem);
-        same(std::string(name) + ", w, in.", "Hankel integral", exact.w, at(s, 1).w);
-        same(std::string(name) + ", moment, lb", "Hankel integral", exact.moment, at(s, 1).layers[0].mx);
+        same(name + ", w, in.", "Hankel integral", exact.w, at(s, 1).w);
+        same(name + ", moment, lb", "Hankel integral", exact.moment, at(s, 1).layers[0].mx);
     }
 }
 
@@ -165,29 +152,30 @@ void wheels() {
     head("Slabs: Westergaard",
          "10000 lb on 16 x 16 in., 10 in. of 4e6 psi, PR = .15, 100 pci, 600 in. square. The formulas are "
          "approximations for a circle, at the corner a fit by Ioannides, Thompson and Barenberg (1985): the "
-         "differences are theirs, too.");
+         "differences are theirs, too.",
+         .1);
     const double side = 16, P = 10000, q = P / side / side;
-    const Problem bare = oneSlab(graded(300, 26, 1.08), graded(300, 26, 1.08));
-    const Westergaard exact(bare.layers[0], 100, P, side);
-    Problem interior = quarterSlab(bare.slabs[0].X, bare.slabs[0].Y), edge = bare, corner = bare;
-    interior.groups = {{{1, 0, side / 2, 0, side / 2, q}}};
-    edge.NODSY = columnAt(bare, 0);
-    edge.groups = {{{1, 0, side / 2, 0, side, q}}};
-    corner.groups = {{{1, 0, side, 0, side, q}}};
+    const auto grid = graded(300, 26, 1.08);
+    const Problem interior = quarterSlab(grid, grid, {{1, 0, side / 2, 0, side / 2, q}}),
+                  corner = oneSlab(grid, grid, {{1, 0, side, 0, side, q}});
+    Problem edge = oneSlab(grid, grid, {{1, 0, side / 2, 0, side, q}});
+    edge.NODSY = columnAt(edge, 0);
+    const Westergaard exact = westergaard(corner.layers[0], 100, P, side);
     const Solution in = solved(interior), ed = solved(edge), co = solved(corner);
-    same("interior, w, in.", "Westergaard 1926", exact.interior().w, at(in, 1).w);
-    same("interior, stress, psi", "Westergaard 1926", exact.interior().stress, at(in, 1).layers[0].sx);
-    same("edge, w, in.", "Westergaard 1948", exact.edge().w, at(ed, 1).w);
-    same("edge, stress, psi", "Westergaard 1948", exact.edge().stress, at(ed, 1).layers[0].sx);
-    same("corner, w, in.", "Ioannides et al. 1985", exact.corner().w, at(co, 1).w);
+    same("interior, w, in.", "Westergaard 1926", exact.interior.w, at(in, 1).w);
+    same("interior, stress, psi", "Westergaard 1926", exact.interior.stress, at(in, 1).layers[0].sx);
+    same("edge, w, in.", "Westergaard 1948", exact.edge.w, at(ed, 1).w);
+    same("edge, stress, psi", "Westergaard 1948", exact.edge.stress, at(ed, 1).layers[0].sx);
+    same("corner, w, in.", "Ioannides et al. 1985", exact.corner.w, at(co, 1).w);
     // The top is in tension: at the bottom the same stress is compression.
-    same("corner, stress, psi", "Ioannides et al. 1985", -exact.corner().stress, largestStress(co.cases[0]));
+    same("corner, stress, psi", "Ioannides et al. 1985", -exact.corner.stress, largestStress(co.cases[0]));
 }
 
 void curling() {
     head("Slabs: curling",
          "Bottom 20 degrees warmer than the top, CT = 5e-6, full contact, 100 pci. The strip is 150 in. "
-         "wide.");
+         "wide.",
+         1e-3);
     const double full = 4e6 * 5e-6 * 20 / (2 * .85);
     Problem wide = quarterSlab(graded(500, 20, 1.05), graded(500, 20, 1.05));
     Problem strip = quarterSlab(lines(20, 2), lines(75, 50));
@@ -203,28 +191,27 @@ void curling() {
 void wholeAndParts() {
     head("Slabs: the same problem in two ways",
          "The expected value is another run's. A quarter between two axes of symmetry and the whole slab; "
-         "one slab "
-         "and two with a rigid joint; two with a free joint and one alone; layers of equal constants and a "
-         "half-space.");
+         "one slab and two with a rigid joint; two with a free joint and one alone; layers of equal "
+         "constants and a half-space.",
+         1e-6);
     for (const auto& [kind, name] : foundations) {
-        Problem full = oneSlab({0, 10, 25, 60, 95, 110, 120}, {0, 20, 48, 76, 96});
+        Problem full = oneSlab({0, 10, 25, 60, 95, 110, 120}, {0, 20, 48, 76, 96}, {{1, 50, 70, 40, 56, 80}});
         if (kind == Layer) full.foundation = plate::layered(5e4, 1e4);
         full.foundation.kind = kind;
-        Problem quarter = quarterSlab({0, 35, 50, 60}, {0, 28, 48});
+        Problem quarter = quarterSlab({0, 35, 50, 60}, {0, 28, 48}, {{1, 0, 10, 0, 8, 80}});
         quarter.foundation = full.foundation;
         for (Problem* p : {&full, &quarter}) p->TEMP = 10, p->CT = 5e-6;
-        full.groups = {{{1, 50, 70, 40, 56, 80}}};
-        quarter.groups = {{{1, 0, 10, 0, 8, 80}}};
         const Solution a = solved(full), b = solved(quarter);
         const NodeResult &whole = at(a, nodeAt(full, 3, 2)), &part = at(b, 1);
-        same(std::string("quarter, ") + name + ", w at the centre, in.", "whole slab", whole.w, part.w);
-        same(std::string("quarter, ") + name + ", stress there, psi", "whole slab", whole.layers[0].sx,
-             part.layers[0].sx);
-        same(std::string("quarter, ") + name + ", w at the corner, in.", "whole slab",
-             at(a, nodeAt(full, 6, 4)).w, at(b, nodeAt(quarter, 3, 2)).w);
+        same("quarter, " + name + ", w at the centre, in.", "whole slab", whole.w, part.w);
+        same("quarter, " + name + ", stress there, psi", "whole slab", whole.layers[0].sx, part.layers[0].sx);
+        same("quarter, " + name + ", s1 on an axis, psi", "whole slab",
+             at(a, nodeAt(full, 4, 2)).layers[0].s1, at(b, nodeAt(quarter, 1, 0)).layers[0].s1);
+        same("quarter, " + name + ", w at the corner, in.", "whole slab", at(a, nodeAt(full, 6, 4)).w,
+             at(b, nodeAt(quarter, 3, 2)).w);
     }
-    Problem one = oneSlab(lines(120, 10), lines(96, 6)), alone = oneSlab(lines(60, 5), lines(96, 6));
-    one.groups = alone.groups = twoSlabs({}).groups;
+    const Problem one = oneSlab(lines(120, 10), lines(96, 6), JOINT_WHEEL),
+                  alone = oneSlab(lines(60, 5), lines(96, 6), JOINT_WHEEL);
     const Solution whole = solved(one), rigid = solved(twoSlabs({1e11, 1e12, 0, 0, 0, 0, 0, {}})),
                    left = solved(alone), loose = solved(twoSlabs({}));
     same("rigid joint, w beside it, loaded slab, in.", "one slab", at(whole, nodeAt(one, 5, 0)).w,
@@ -234,8 +221,7 @@ void wholeAndParts() {
     same("free joint, w beside it, loaded slab, in.", "slab alone", at(left, nodeAt(alone, 5, 0)).w,
          at(loose, nodeAt(alone, 5, 0)).w);
     nothing("free joint, w of the other slab, share", "no load", at(loose, 43).w / at(loose, 36).w);
-    Problem ground = oneSlab(lines(120, 8), lines(96, 6));
-    ground.groups = {{{1, 0, 20, 0, 20, 80}}};
+    Problem ground = oneSlab(lines(120, 8), lines(96, 6), {{1, 0, 20, 0, 20, 80}});
     ground.foundation.kind = Solid;
     const Solution solid = solved(ground);
     ground.foundation = plate::layered(1e4, 1e4);
@@ -245,11 +231,10 @@ void wholeAndParts() {
 void twoLayers() {
     head("Slabs: two layers",
          "6 in. on 4 in., liquid foundation: ratios at the node below the load. Bonded: modulus times "
-         "distance "
-         "from the neutral axis; unbonded: modulus times thickness.");
-    Problem p = oneSlab(lines(120, 8), lines(96, 6));
-    p.groups = {{{1, 10, 30, 0, 20, 80}}};
-    Problem one = p;
+         "distance from the neutral axis; unbonded: modulus times thickness.",
+         1e-9);
+    const Problem one = oneSlab(lines(120, 8), lines(96, 6), {{1, 10, 30, 0, 20, 80}});
+    Problem p = one;
     p.layers = {{6, .15, 4e6, 0}, {4, .15, 4e6, 0}};
     p.NBOND = true;
     const int node = nodeAt(p, 1, 0);
@@ -271,28 +256,27 @@ void twoLayers() {
 void reciprocity() {
     head("Slabs: reciprocity",
          "Four slabs of unequal spans with springs and dowels in both directions: deflection in the fourth "
-         "slab "
-         "under a force of 1000 lb in the first, and the other way round; rotations likewise under moments.");
+         "slab under a force of 1000 lb in the first, and the other way round; rotations likewise under "
+         "moments.",
+         1e-9);
     for (const auto& [kind, name] : foundations) {
         Problem p = unequalSlabs();
         p.foundation.kind = kind;
         const int A = 3, B = nodeAt(p, 2, 0, 3);
         Problem there = p, back = p;
         there.FF = {{A, 1000}}, back.FF = {{B, 1000}};
-        same(std::string(name) + ", w, in.", "loads exchanged", at(solved(there), B).w,
-             at(solved(back), A).w);
+        same(name + ", w, in.", "loads exchanged", at(solved(there), B).w, at(solved(back), A).w);
         there.FF.clear(), back.FF.clear();
         there.FMX = {{A, 1000}}, back.FMY = {{B, 1000}};
-        same(std::string(name) + ", rotation", "loads exchanged", at(solved(there), B).rx,
-             at(solved(back), A).ry);
+        same(name + ", rotation", "loads exchanged", at(solved(there), B).rx, at(solved(back), A).ry);
     }
 }
 
 void contact() {
     head("Slabs: contact",
          "180 x 144 in. with weight, bottom 30 degrees warmer than the top, a gap of .05 in. under the nodes "
-         "of the "
-         "loaded corner, 40 psi on 30 x 30 in. there: what carries it, and the worst of all nodes.");
+         "of the loaded corner, 40 psi on 30 x 30 in. there: what carries it, and the worst of all nodes.",
+         1e-9);
     for (const auto& [kind, name] : {foundations[0], foundations[1]}) {
         Problem p = curled(kind);
         p.groups = {{{1, 0, 30, 0, 30, 40}}};
@@ -307,11 +291,11 @@ void contact() {
             pull = std::max(pull, -c.state.reaction[n] / load);
             overlap = std::max(overlap, -c.state.gap[n]);
         }
-        same(std::string(name) + ", sum of reactions, lb", "loads and weight", load, carried);
-        nothing(std::string(name) + ", force balance", "equilibrium", c.equilibrium.forceError);
-        nothing(std::string(name) + ", moment balance", "equilibrium", c.equilibrium.momentError);
-        nothing(std::string(name) + ", largest pull of a node", "pressure only", pull);
-        nothing(std::string(name) + ", deepest node inside the foundation, in.", "no overlap", overlap);
+        same(name + ", sum of reactions, lb", "loads and weight", load, carried);
+        nothing(name + ", force balance", "equilibrium", c.equilibrium.forceError);
+        nothing(name + ", moment balance", "equilibrium", c.equilibrium.momentError);
+        nothing(name + ", largest pull of a node", "pressure only", pull);
+        nothing(name + ", deepest node inside the foundation, in.", "no overlap", overlap);
     }
 }
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QtTest>
+#include <array>
 
 #include "platform/qt/value_form.h"
 #include "support/recording_printer.h"
@@ -30,7 +31,6 @@ class Trial : public ValueForm {
         showFields();
         present();
     }
-    using ValueForm::showFields;
     int stored = 0;
 
   private:
@@ -44,10 +44,12 @@ class InputForms : public ::testing::Test {
         trial.Form_Load();
     }
     ~InputForms() override { setDispatchDialogs(nullptr); }
-    static void click(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }
-    static std::string text(Form& form, const char* box) { return form.control<TextBox>(box).textValue(); }
-    void enter(const char* box, const char* value) { trial.control<TextBox>(box).setTextValue(value); }
-    void ok() { click(trial.control<Button>("cmdOk")); }
+    static constexpr std::array boxes = {"txtText", "txtWhole", "txtSingle", "txtPrecise", "txtCell"};
+    void enterAndOk(const std::array<const char*, 5>& texts) {
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            trial.control<TextBox>(boxes[i]).setTextValue(texts[i]);
+        QTest::mouseClick(&trial.control<Button>("cmdOk"), Qt::LeftButton);
+    }
 
     ScriptedDialogs dialogs;
     RecordingPrinter printer;
@@ -56,17 +58,10 @@ class InputForms : public ::testing::Test {
 };
 
 TEST_F(InputForms, ShowAndStoreEachTypeOfField) {
-    EXPECT_EQ(text(trial, "txtText"), "as it stands");
-    EXPECT_EQ(text(trial, "txtWhole"), "-3");
-    EXPECT_EQ(text(trial, "txtSingle"), ".1");
-    EXPECT_EQ(text(trial, "txtPrecise"), "1234567.25");
-    EXPECT_EQ(text(trial, "txtCell"), "7.50");
-    enter("txtText", " 1, 2 ");
-    enter("txtWhole", "2.5");
-    enter("txtSingle", "1E-3x");
-    enter("txtPrecise", "1D2");
-    enter("txtCell", "");
-    ok();
+    std::vector<std::string> shown;
+    for (const char* box : boxes) shown.push_back(trial.control<TextBox>(box).textValue());
+    EXPECT_EQ(shown, (std::vector<std::string>{"as it stands", "-3", ".1", "1234567.25", "7.50"}));
+    enterAndOk({" 1, 2 ", "2.5", "1E-3x", "1D2", ""});
     EXPECT_EQ(trial.stored, 1);
     EXPECT_EQ(values.text, " 1, 2 ");
     EXPECT_EQ(values.whole, 2) << "half to even";
@@ -77,13 +72,9 @@ TEST_F(InputForms, ShowAndStoreEachTypeOfField) {
 }
 
 TEST_F(InputForms, ANumberThatDoesNotFitIsToldAndNotStored) {
-    for (const auto& [box, beyond] : {std::pair{"txtWhole", "32767.5"}, {"txtSingle", "-4E38"}}) {
-        trial.showFields();
-        enter(box, beyond);
-        dialogs.expectBox("Overflow");
-        ok();
-        EXPECT_TRUE(dialogs.finished()) << box;
-    }
+    for (int time = 0; time < 2; ++time) dialogs.expectBox("Overflow");
+    enterAndOk({"", "32767.5", "0", "0", "0"});
+    enterAndOk({"", "-3", "-4E38", "0", "0"});
     EXPECT_EQ(values.whole, -3);
     EXPECT_EQ(values.single, 0.1F);
 }

@@ -23,17 +23,25 @@ echo "last line"
 : > "$here/finished"
 )sh";
 
+/// A variable of the environment, set as long as this lives.
+class Environment {
+  public:
+    Environment(const char* name, const std::string& value) : name_(name) { qputenv(name, value.c_str()); }
+    ~Environment() { before_.isNull() ? qunsetenv(name_) : qputenv(name_, before_); }
+    Environment(const Environment&) = delete;
+
+  private:
+    const char* const name_;
+    const QByteArray before_ = qgetenv(name_);
+};
+
 class ShellTest : public ::testing::Test {
   protected:
     ShellTest() {
         directory.write("TOLSTRAT.EXE", slowSolver);
         std::filesystem::permissions(solver(), std::filesystem::perms::owner_all);
-        qputenv("TMPDIR", directory.path().c_str());
     }
-    ~ShellTest() override {
-        letSolverGoOn();
-        before_.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before_);
-    }
+    ~ShellTest() override { letSolverGoOn(); }
 
     std::string solver() const { return directory.path() + "TOLSTRAT.EXE"; }
     void letSolverGoOn() const { directory.write("go on", ""); }
@@ -52,9 +60,7 @@ class ShellTest : public ::testing::Test {
     TemporaryDirectory directory;  ///< its name holds blanks
     ScriptedDialogs dialogs;
     QtDesktop desktop{dialogs, directory.path()};
-
-  private:
-    const QByteArray before_ = qgetenv("TMPDIR");
+    const Environment TMPDIR{"TMPDIR", directory.path()};
 };
 
 TEST_F(ShellTest, TheConsoleWindowFollowsTheProcessToItsEnd) {
@@ -100,9 +106,8 @@ TEST_F(ShellTest, AProgramThatCannotBeStartedIsTold) {
 }
 
 TEST_F(ShellTest, ATerminalOpensInTheDirectoryOrItsLackIsTold) {
-    const QByteArray path = qgetenv("PATH");
     const TemporaryDirectory programs;
-    qputenv("PATH", programs.path().c_str());
+    const Environment PATH("PATH", programs.path());
     dialogs.expectBox("No terminal program was found on this machine.");
     desktop.openTerminal(directory.path());
 
@@ -110,7 +115,6 @@ TEST_F(ShellTest, ATerminalOpensInTheDirectoryOrItsLackIsTold) {
     std::filesystem::permissions(programs.path() + "xterm", std::filesystem::perms::owner_all);
     desktop.openTerminal(directory.path());
     EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory.path() + "was here"); }));
-    qputenv("PATH", path);
 }
 
 TEST(QtDesktop, ChDirFailsForWhatIsNoDirectoryAndMkDirMakesOneLevelInSilence) {
@@ -134,12 +138,10 @@ TEST(QtDesktop, SettingsLieBesideTheProgramOrInTheUsersFolder) {
     ScriptedDialogs dialogs;
     EXPECT_EQ(QtDesktop(dialogs, directory.path()).settingsDirectory(), directory.path());
 
-    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-    qputenv("XDG_CONFIG_HOME", directory.path().c_str());
+    const Environment XDG_CONFIG_HOME("XDG_CONFIG_HOME", directory.path());
     const std::string own = QtDesktop(dialogs, "/nowhere").settingsDirectory();
     EXPECT_EQ(QDir(QString::fromStdString(own)), QDir(QString::fromStdString(directory.path() + "tolmark")));
     EXPECT_TRUE(std::filesystem::is_directory(own));
-    before.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", before);
 }
 
 }  // namespace

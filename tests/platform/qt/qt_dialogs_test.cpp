@@ -25,32 +25,24 @@ void press(QDialog& box, QMessageBox::StandardButton button) {
 }
 
 TEST(MsgBox, GivesTheAnswerAndTakesClosingForTheMildestOne) {
-    struct Case {
+    const std::pair<QMessageBox::StandardButton, Answer> ok{QMessageBox::Ok, Answer::Ok},
+        yes{QMessageBox::Yes, Answer::Yes}, no{QMessageBox::No, Answer::No},
+        cancel{QMessageBox::Cancel, Answer::Cancel};
+    const struct {
         Buttons buttons;
-        QMessageBox::StandardButton pressed;  ///< NoButton: closed by its frame
-        Answer answer;
-    };
-    const std::vector<Case> cases = {
-        {Buttons::Ok, QMessageBox::Ok, Answer::Ok},
-        {Buttons::Ok, QMessageBox::NoButton, Answer::Ok},
-        {Buttons::YesNo, QMessageBox::Yes, Answer::Yes},
-        {Buttons::YesNo, QMessageBox::No, Answer::No},
-        {Buttons::YesNo, QMessageBox::NoButton, Answer::No},
-        {Buttons::YesNoCancel, QMessageBox::Yes, Answer::Yes},
-        {Buttons::YesNoCancel, QMessageBox::No, Answer::No},
-        {Buttons::YesNoCancel, QMessageBox::Cancel, Answer::Cancel},
-        {Buttons::YesNoCancel, QMessageBox::NoButton, Answer::Cancel},
-    };
+        std::vector<std::pair<QMessageBox::StandardButton, Answer>> presses;
+        Answer closed;
+    } boxes[] = {{Buttons::Ok, {ok}, Answer::Ok},
+                 {Buttons::YesNo, {yes, no}, Answer::No},
+                 {Buttons::YesNoCancel, {yes, no, cancel}, Answer::Cancel}};
     QtDialogs dialogs;
-    for (const Case& c : cases) {
-        onNextBox([&](QDialog& box) {
-            if (c.pressed == QMessageBox::NoButton) {
-                box.close();
-            } else {
-                press(box, c.pressed);
-            }
-        });
-        EXPECT_EQ(dialogs.MsgBox("Go on?", c.buttons, ""), c.answer) << static_cast<int>(c.pressed);
+    for (const auto& [buttons, presses, closed] : boxes) {
+        for (const auto& [button, answer] : presses) {
+            onNextBox([&](QDialog& box) { press(box, button); });
+            EXPECT_EQ(dialogs.MsgBox("Go on?", buttons, ""), answer) << button;
+        }
+        onNextBox([](QDialog& box) { box.close(); });
+        EXPECT_EQ(dialogs.MsgBox("Go on?", buttons, ""), closed);
     }
 }
 
@@ -92,21 +84,29 @@ class FileDialogTest : public ::testing::Test {
         edit->setText(name);
         box.findChild<QDialogButtonBox*>()->buttons().first()->click();
     }
+    static void expectListed(QDialog& box, const QStringList& names) {
+        const auto* list = box.findChild<QListView*>("listView");
+        QStringList listed;
+        EXPECT_TRUE(QTest::qWaitFor([&] {
+            listed.clear();
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+                listed << list->model()->index(row, 0, list->rootIndex()).data().toString();
+            listed.sort();
+            return listed == names;
+        })) << listed.join(" ").toStdString();
+    }
 
     TemporaryDirectory directory;
     QtDialogs dialogs;
 };
 
 TEST_F(FileDialogTest, ListsFilesOfEitherCaseAndStartsInTheFolderOfABareName) {
-    directory.write("lower.dat", "");
-    directory.write("UPPER.DAT", "");
-    directory.write("other.txt", "");
+    for (const char* name : {"lower.dat", "UPPER.DAT", "other.txt"}) directory.write(name, "");
     onNextBox([this](QDialog& box) {
-        auto& files = dynamic_cast<QFileDialog&>(box);
+        const auto& files = dynamic_cast<QFileDialog&>(box);
         EXPECT_EQ(files.directory().absolutePath().toStdString() + "/", directory.path());
         EXPECT_EQ(files.selectedNameFilter(), "Data Files (*.DAT)");
-        const auto* list = files.findChild<QListView*>("listView");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
+        expectListed(box, {"UPPER.DAT", "lower.dat"});
         type(box, "lower.dat");
     });
     const auto answer = dialogs.fileDialog(question(FileQuestion::Action::Open, ""));
@@ -124,50 +124,33 @@ TEST_F(FileDialogTest, ProposesTheNameAndGivesNothingWhenCancelled) {
     EXPECT_FALSE(dialogs.fileDialog(question(FileQuestion::Action::Open, "ROAD.DAT")));
 }
 
-TEST_F(FileDialogTest, ListsAPatternFirstAndCompletesANameWithoutExtension) {
+/// Saving lists the pattern first, completes a name without extension, and asks before it takes the place of
+/// a file, also of one that differs in case.
+TEST_F(FileDialogTest, SavingListsAPatternAndAsksBeforeItReplaces) {
     directory.write("road.dat", "deck");
     directory.write("road.txt", "");
     FileQuestion asked = question(FileQuestion::Action::Save, "");
     asked.filterNumber = 2;
     asked.pattern = "*.dat";
     asked.defaultExtension = ".DAT";
-    onNextBox([](QDialog& box) {
-        auto& files = dynamic_cast<QFileDialog&>(box);
-        EXPECT_EQ(files.selectedNameFilter(), "Text Files (*.TXT)");
-        const auto* list = files.findChild<QListView*>("listView");
-        const auto only = [&] {
-            return list->model()->rowCount(list->rootIndex()) == 1 &&
-                   list->model()->index(0, 0, list->rootIndex()).data() == "road.dat";
-        };
-        EXPECT_TRUE(QTest::qWaitFor(only));
-        onNextBox([&](QDialog& question) {
-            onNextBox([](QDialog& again) { type(again, "new"); });
-            press(question, QMessageBox::No);
+    for (const char* chosen : {"ROAD", "ROAD.DAT"}) {
+        QString told;
+        onNextBox([&](QDialog& box) {
+            EXPECT_EQ(dynamic_cast<QFileDialog&>(box).selectedNameFilter(), "Text Files (*.TXT)");
+            expectListed(box, {"road.dat"});
+            onNextBox([&](QDialog& replace) {
+                told = dynamic_cast<QMessageBox&>(replace).text();
+                onNextBox([](QDialog& again) { type(again, "new"); });
+                press(replace, QMessageBox::No);
+            });
+            type(box, chosen);
         });
-        type(box, "ROAD");
-    });
-    const auto answer = dialogs.fileDialog(asked);
-    ASSERT_TRUE(answer);
-    EXPECT_EQ(answer->name, directory.path() + "new.DAT");
-    EXPECT_EQ(answer->filterNumber, 2);
-}
-
-TEST_F(FileDialogTest, SavingOverAFileThatDiffersInCaseIsAsked) {
-    directory.write("road.dat", "deck");
-    QStringList asked;
-    onNextBox([&](QDialog& box) {
-        onNextBox([&](QDialog& question) {
-            asked << dynamic_cast<QMessageBox&>(question).text();
-            onNextBox([](QDialog& again) { type(again, "new.dat"); });
-            press(question, QMessageBox::No);
-        });
-        type(box, "ROAD.DAT");
-    });
-    const auto answer = dialogs.fileDialog(question(FileQuestion::Action::Save, ""));
-    ASSERT_TRUE(answer);
-    EXPECT_EQ(answer->name, directory.path() + "new.dat");
-    ASSERT_EQ(asked.size(), 1);
-    EXPECT_TRUE(asked[0].contains("road.dat"));
+        const auto answer = dialogs.fileDialog(asked);
+        ASSERT_TRUE(answer);
+        EXPECT_EQ(answer->name, directory.path() + "new.DAT");
+        EXPECT_EQ(answer->filterNumber, 2);
+        EXPECT_TRUE(told.contains("road.dat")) << told.toStdString();
+    }
 }
 
 }  // namespace

@@ -18,6 +18,16 @@ namespace reference {
 using layered_theory::AxisymmetricResponse;
 using layered_theory::Structure;
 
+/// Stiff and soft layers by turns, some interfaces frictionless, thicknesses .2 to .4 times `size`.
+inline Structure nineteenLayers(double size, double modulus) {
+    Structure s;
+    for (int i = 0; i < 19; ++i) {
+        s.layers.push_back({(0.2 + 0.1 * (i % 3)) * size, (i % 2 ? 1 : 1000) * modulus, i % 4 ? 0.3 : 0.5});
+        if (i < 18) s.bonded.push_back(i % 5 != 2);
+    }
+    return s;
+}
+
 template <class Real>
 using M2 = Eigen::Matrix<Real, 2, 2>;
 template <class Real>
@@ -169,6 +179,16 @@ std::vector<Integrals> integrate(double a, const std::vector<double>& radii, dou
 /// Half-space under the same load: (W, U, S, T) in closed form, the textbook transforms.
 inline Eigen::Matrix<long double, 4, 1> halfSpaceState(double nu, long double x) {
     return Eigen::Matrix<long double, 4, 1>(2 * (1 - nu) + x, -(1 - 2 * nu) + x, -(1 + x), -x) * std::exp(-x);
+}
+
+/// w, szz and srr below the centre of the load on a half-space (Love 1929; Foster and Ahlvin 1954).
+inline AxisymmetricResponse onAxis(double E, double nu, double a, double q, double z) {
+    const double R = std::hypot(a, z), c = z / R;
+    AxisymmetricResponse y{};
+    y.w = q * (1 + nu) / E * (a * a / R + (1 - 2 * nu) * (R - z));
+    y.szz = q * (1 - c * c * c);
+    y.srr = q / 2 * (1 + 2 * nu - 2 * (1 + nu) * c + c * c * c);
+    return y;
 }
 
 /// Values on the surface of a half-space (Johnson 1985, Contact Mechanics, 3.4); r = a is not meant here.

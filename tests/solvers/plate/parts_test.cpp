@@ -12,18 +12,6 @@
 namespace plate {
 namespace {
 
-// A field and its unknowns (w, -w,y, w,x) at the corners of an element 2a x 2b.
-template <class Field>
-Vector12 sampled(Field field, double x0, double y0, double a, double b) {
-    Vector12 d;
-    for (int c = 0; c < 4; ++c) {
-        const auto [u, v] = corners[static_cast<std::size_t>(c)];
-        const auto [w, wx, wy] = field(x0 + u * a, y0 + v * b);
-        d.segment<3>(3 * c) << w, -wy, wx;
-    }
-    return d;
-}
-
 TEST(PlateElement, ReproducesEveryFieldOfItsPolynomials) {
     const auto field = [](double x, double y) {
         return std::array{2 + 3 * x * x - x * y + x * x * x * y - 2 * x * y * y * y + y * y * y,
@@ -31,7 +19,12 @@ TEST(PlateElement, ReproducesEveryFieldOfItsPolynomials) {
                           -x + x * x * x - 6 * x * y * y + 3 * y * y};
     };
     const double a = 1.5, b = 0.7, x0 = 0.4, y0 = -0.9;
-    const Vector12 d = sampled(field, x0, y0, a, b);
+    Vector12 d;
+    for (int c = 0; c < 4; ++c) {
+        const auto [xi, eta] = corners[static_cast<std::size_t>(c)];
+        const auto [w, wx, wy] = field(x0 + xi * a, y0 + eta * b);
+        d.segment<3>(3 * c) << w, -wy, wx;
+    }
     for (const auto& [xi, eta] : {std::pair{0.3, -0.8}, {-1., 1.}, {0., 0.}, {0.9, 0.2}}) {
         const double x = x0 + a * xi, y = y0 + b * eta;
         EXPECT_NEAR(shape(xi, eta, a, b).dot(d), field(x, y)[0], 1e-12);
@@ -40,33 +33,6 @@ TEST(PlateElement, ReproducesEveryFieldOfItsPolynomials) {
         EXPECT_NEAR(k(1), -(-12 * x * y + 6 * y), 1e-11);
         EXPECT_NEAR(k(2), -2 * (-1 + 3 * x * x - 6 * y * y), 1e-11);
     }
-}
-
-TEST(PlateElement, QuartersMakeTheWhole) {
-    Vector12 sum = Vector12::Zero();
-    for (int c = 0; c < 4; ++c) sum += quarterIntegral(c, 1.5, 0.7);
-    EXPECT_LT((sum - shapeIntegral(-1, 1, -1, 1, 1.5, 0.7)).norm(), 1e-13);
-    const auto x = [](double x, double) { return std::array{x, 1., 0.}; };
-    const Vector12 d = sampled(x, 1.5, 0.7, 1.5, 0.7);  // w = x on 0..3
-    EXPECT_NEAR(d.dot(quarterIntegral(1, 1.5, 0.7)), 0.7 * (9 - 2.25) / 2, 1e-12);
-    EXPECT_NEAR(d.dot(QuarterProducts()(1, 1.5, 0.7) * d), 0.7 * (27 - 3.375) / 3, 1e-12);
-}
-
-// A patch of unequal rectangles under constant curvature needs no forces inside.
-TEST(PlateElement, PassesThePatchTest) {
-    Problem p = oneSlab({0, 7, 20, 26}, {0, 5, 17, 20});
-    const Mesh mesh = makeMesh(p);
-    const Structure structure(p, mesh);
-    Vector d(structure.unknowns());
-    for (int n = 0; n < mesh.count(); ++n) {
-        const auto [x, y] =
-            std::pair{mesh.nodes[static_cast<std::size_t>(n)].x, mesh.nodes[static_cast<std::size_t>(n)].y};
-        d.segment<3>(3 * n) << x * x - 0.5 * y * y + 0.3 * x * y, y - 0.3 * x, 2 * x + 0.3 * y;
-    }
-    const Vector force = structure.stiffness().selfadjointView<Eigen::Lower>() * d;
-    for (int i : {1, 2})
-        for (int j : {1, 2})
-            EXPECT_LT(force.segment<3>(3 * (nodeAt(p, i, j) - 1)).norm(), 1e-12 * force.norm());
 }
 
 // Composite section by hand: E2 = 2 E1, T1 = 4, T2 = 2, no Poisson's ratio: transformed
@@ -82,9 +48,7 @@ TEST(PlateSection, BondedAndUnbonded) {
     const Section loose = makeSection(layers, {4, 2}, false);
     EXPECT_NEAR(loose.stiffness(0, 0), 1000 * 64. / 12 + 2000 * 8. / 12, 1e-9);
     EXPECT_NEAR(loose.layer[1].bottom(0, 0), 2000, 1e-9);
-    // Equal layers, bonded, are one; different Poisson's ratios leave no in-plane force.
-    const SlabLayer half{3, 0.2, 1000, 0};
-    EXPECT_NEAR(makeSection({half, half}, {3, 3}, true).stiffness(0, 1), 0.2 * 1000 * 18 / 0.96, 1e-9);
+    // Different Poisson's ratios leave no in-plane force.
     const Section mixed = makeSection({{4, 0.1, 1000, 0}, {2, 0.4, 1000, 0}}, {4, 2}, true);
     EXPECT_NEAR((mixed.stiffness - mixed.stiffness.transpose()).norm(), 0, 1e-9);
 }
@@ -129,13 +93,7 @@ TEST(PlateDamage, AllowedRepetitions) {
         {0.3, {{16.61, 17.61}}, std::pow(10., 11.327)},
         {0, {{16.61, 17.61}}, INFINITY},
     };
-    for (const auto& r : rows) {
-        const double N = allowedRepetitions(r.SR, r.law);
-        if (std::isinf(r.N))
-            EXPECT_TRUE(std::isinf(N)) << r.SR;
-        else
-            EXPECT_NEAR(N / r.N, 1, 1e-3) << r.SR;
-    }
+    for (const auto& [SR, law, N] : rows) EXPECT_NEAR(1 / allowedRepetitions(SR, law), 1 / N, 1e-3 / N) << SR;
 }
 
 TEST(PlateDamage, TellsAxlesApart) {
@@ -150,6 +108,7 @@ TEST(PlateDamage, TellsAxlesApart) {
         {{25, 50, 10}, Axles::Tandem, 1e-2 + 1e-3},
         {{-10, 50, 10}, Axles::Tandem, 2e-2},  // compression between: two full cycles
         {{45, 25, 50}, Axles::Tridem, 1e-2 + 2e-3},
+        {{50, 25, 40}, Axles::Tridem, 1e-2 + 2e-3},  // the first wheel is the heaviest
     };
     for (const auto& r : rows) {
         const Passage p = passage(r.tension, 100, law);

@@ -22,15 +22,15 @@ inline std::vector<double> graded(double length, int elements, double ratio) {
     return at;
 }
 
-/// One slab, lb and in., without loads: 10 in. of 4,000,000 psi on 100 pci.
-inline Problem oneSlab(std::vector<double> x, std::vector<double> y) {
+/// One slab, lb and in.: 10 in. of 4,000,000 psi on 100 pci, areas of one load group.
+inline Problem oneSlab(std::vector<double> x, std::vector<double> y, std::vector<LoadedArea> areas = {}) {
     Problem p;
     p.slabs = {{std::move(x), std::move(y), {}}};
     p.layers = {{10, 0.15, 4e6, 0.0868}};
     p.foundation.SUBMOD = 100;
     p.foundation.YMS = 1e4;
     p.foundation.PRS = 0.4;
-    p.groups = {{}};
+    p.groups = {std::move(areas)};
     return p;
 }
 
@@ -57,8 +57,8 @@ inline std::vector<int> rowAt(const Problem& p, int j) {
 }
 
 /// Grid lines on two axes of symmetry, which x and y begin at: the slab is a quarter of the whole.
-inline Problem quarterSlab(std::vector<double> x, std::vector<double> y) {
-    Problem p = oneSlab(std::move(x), std::move(y));
+inline Problem quarterSlab(std::vector<double> x, std::vector<double> y, std::vector<LoadedArea> areas = {}) {
+    Problem p = oneSlab(std::move(x), std::move(y), std::move(areas));
     p.NODSX = rowAt(p, 0);
     p.NODSY = columnAt(p, 0);
     return p;
@@ -79,16 +79,23 @@ inline Foundation layered(double E1, double E2) {
     return f;
 }
 
-/// Two slabs side by side with a joint between them, loaded on the left one beside it.
-inline Problem twoSlabs(const Joint& joint) {
-    Problem p = oneSlab(lines(60, 5), lines(96, 6));
+/// The same slab again on the right of the first, with a joint between them.
+inline void addNeighbour(Problem& p, const Joint& joint) {
     p.slabs.push_back(p.slabs[0]);
     p.slabs[0].JONO[1] = 1;
     p.slabs[1].JONO[0] = 1;
     p.joints = {joint};
     p.YMSB = 29e6;
     p.PRSB = 0.3;
-    p.groups = {{{1, 40, 60, 0, 20, 80}}};
+}
+
+/// On a slab of 60 in., beside its right side.
+inline const std::vector<LoadedArea> JOINT_WHEEL{{1, 40, 60, 0, 20, 80}};
+
+/// Two slabs side by side with a joint between them, loaded on the left one beside it.
+inline Problem twoSlabs(const Joint& joint) {
+    Problem p = oneSlab(lines(60, 5), lines(96, 6), JOINT_WHEEL);
+    addNeighbour(p, joint);
     return p;
 }
 

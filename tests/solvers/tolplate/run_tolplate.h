@@ -12,6 +12,13 @@ inline Outcome run(const std::vector<std::string>& arguments, const SlabSolver& 
     return runSolver([&](int argc, char** argv) { return runTolplate(solver, argc, argv); }, arguments);
 }
 
+inline std::unique_ptr<Store> readExample(const std::string& name) {
+    auto store = std::make_unique<Store>();
+    const auto read = readSlabDeck(TOLMARK_SOURCE_DIR "/examples/" + name, *store);
+    EXPECT_EQ(read.outcome, DeckReadResult::Outcome::Complete) << name << ": " << read.sentence();
+    return store;
+}
+
 inline std::vector<PanRun> readPan(const std::string& path) {
     std::vector<PanRun> runs;
     PanReader reader(path);
@@ -76,12 +83,7 @@ inline std::unique_ptr<Store> twoSlabs() {
     s.NJOINT = 1;
     s.SLAB[2] = s.SLAB[1];
     s.SLAB[1].JONO2 = s.SLAB[2].JONO1 = 1;
-    SlabSet::Joint& joint = s.JOINT[1];
-    joint.SPCON1 = joint.SPCON2 = joint.GDC = joint.NNAJ = 0.0;
-    joint.SCKV = 1.5e6;
-    joint.BD = 1.25;
-    joint.BS = 12.0;
-    joint.WJ = 0.25;
+    s.JOINT[1] = {0.0, 0.0, 1.5e6, 1.25, 12.0, .25, 0.0, 0.0, {}};
     return store;
 }
 

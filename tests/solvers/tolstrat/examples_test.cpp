@@ -1,7 +1,8 @@
-// The decks in examples/: as the program itself writes them, solved, plotted, and the same road in both
-// units.
+// The decks in examples/: as the program itself writes them, solved, plotted, the same road in both units,
+// and what their sheets say of the results.
 #include "plots/layered_plot.h"
 #include "solvers/tolstrat/run_tolstrat.h"
+#include "support/sheet_statements.h"
 
 namespace {
 
@@ -25,7 +26,7 @@ TEST_P(Examples, AreWrittenSolvedAndPlotted) {
         EXPECT_EQ(folder.read("road.DAT"), example(name(units))) << name(units);
         const Outcome done = run({folder.path() + "road", "--quiet"});
         ASSERT_EQ(done.status, SOLVED) << done.errors;
-        EXPECT_EQ(folder.read("road.TXT").find("were reached"), std::string::npos) << name(units);
+        EXPECT_THAT(folder.read("road.TXT"), Not(HasSubstr("were reached"))) << name(units);
 
         LayeredPlot plot(folder.path() + "road.BED");
         int pages = 0;
@@ -44,5 +45,20 @@ TEST_P(Examples, AgreeInBothUnitSystems) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Examples, testing::Range(1, 7));
+
+Results solveExample(const std::string& deck) {
+    const TemporaryDirectory folder;
+    folder.write(deck + ".DAT", textPage(deck, "\r\n"));
+    const Outcome done = run({folder.path() + deck, "--quiet", "--csv", folder.path() + "out.csv"});
+    EXPECT_EQ(done.status, SOLVED) << deck << ": " << done.errors;
+    return {folder.read(deck + ".TXT"), csvRows(folder.read("out.csv"))};
+}
+
+TEST(Sheets, StateWhatTheSolverFinds) {
+    expectTrueSheets({"frmBed", std::regex("(.*z = \\S+) +([a-z]+[0-9]?) +([-.0-9E]+) .*"),
+                      std::regex("(Fatigue cracking|Permanent deformation|Design life, years) +([.0-9]+).*"),
+                      solveExample},
+                     3);
+}
 
 }  // namespace

@@ -5,7 +5,7 @@
 #include <functional>
 #include <numbers>
 
-#include "problems.h"
+#include "solvers/plate/problems.h"
 
 namespace plate {
 
@@ -36,11 +36,12 @@ inline Centre infinitePlate(const SlabLayer& slab, double q, double c,
     return sum;
 }
 
-/// Slab a x b whose four edges are axes of symmetry, pressure q on 0..c x 0..d, liquid
-/// foundation k: double cosine series, at (x, y).
 struct Guided {
     double w, mx;
 };
+
+/// Slab a x b whose four edges are axes of symmetry, pressure q on 0..c x 0..d, liquid
+/// foundation k: double cosine series, at (x, y).
 inline Guided guidedSlab(const SlabLayer& slab, double k, double a, double b, double c, double d, double q,
                          double x, double y) {
     const double D = rigidity(slab), pi = std::numbers::pi;
@@ -62,35 +63,19 @@ inline Guided guidedSlab(const SlabLayer& slab, double k, double a, double b, do
 /// bottom stress, tension negative. Interior and edge: Westergaard (1926; edge 1948) for a
 /// circle of the same area, edge for Poisson's ratio 0.15. At the corner his formulas are some
 /// 14 % off; there Ioannides, Thompson and Barenberg (1985).
-class Westergaard {
-  public:
-    struct Answer {
+struct Westergaard {
+    struct {
         double w, stress;
-    };
-    Westergaard(const SlabLayer& slab, double k, double P, double side)
-        : h_(slab.T),
-          k_(k),
-          P_(P),
-          side_(side),
-          a_(side / std::sqrt(std::numbers::pi)),
-          l_(std::pow(rigidity(slab) / k, 0.25)) {}
-    Answer interior() const {
-        const double share = (std::log(a_ / 2 / l_) - 0.673) * a_ * a_ / l_ / l_ / (2 * std::numbers::pi);
-        return {P_ / (8 * k_ * l_ * l_) * (1 + share),
-                -0.316 * P_ / h_ / h_ * (4 * std::log10(l_ / a_) + 1.069)};
-    }
-    Answer edge() const {
-        return {0.431 * P_ / (k_ * l_ * l_) * (1 - 0.82 * a_ / l_),
-                -0.803 * P_ / h_ / h_ * (4 * std::log10(l_ / a_) + 0.666 * a_ / l_ - 0.034)};
-    }
-    Answer corner() const {
-        return {P_ / (k_ * l_ * l_) * (1.205 - 0.69 * side_ / l_),
-                3 * P_ / h_ / h_ * (std::pow(side_ / l_, 0.72) - 1)};
-    }
-
-  private:
-    double h_, k_, P_, side_, a_, l_;
+    } interior, edge, corner;
 };
+inline Westergaard westergaard(const SlabLayer& slab, double k, double P, double side) {
+    const double h = slab.T, a = side / std::sqrt(std::numbers::pi), l = std::pow(rigidity(slab) / k, 0.25);
+    const double share = (std::log(a / 2 / l) - 0.673) * a * a / l / l / (2 * std::numbers::pi);
+    return {{P / (8 * k * l * l) * (1 + share), -0.316 * P / h / h * (4 * std::log10(l / a) + 1.069)},
+            {0.431 * P / (k * l * l) * (1 - 0.82 * a / l),
+             -0.803 * P / h / h * (4 * std::log10(l / a) + 0.666 * a / l - 0.034)},
+            {P / (k * l * l) * (1.205 - 0.69 * side / l), 3 * P / h / h * (std::pow(side / l, 0.72) - 1)}};
+}
 
 /// Westergaard (1927): by how much of the full curling stress a strip of width b has less at its
 /// middle, liquid foundation k.
