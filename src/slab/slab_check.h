@@ -15,7 +15,8 @@ struct Store;
 /// the foundation are positive where they must be. How slabs, joints and loads fit together is not looked at.
 std::optional<DeckFault> checkSlabSet(const SlabSet& set, int number);
 
-/// The first fault of the number of data sets, or of data sets 1 to `NPROB`.
+/// The first fault of the number of data sets, of data sets 1 to `NPROB`, or of a second one that continues
+/// the first with other slabs.
 std::optional<DeckFault> checkSlabDeck(const Store& store);
 
 /// Place of the first card that has a field of this name, or of one that begins so ("JONO"), for messages of

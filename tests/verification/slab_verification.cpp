@@ -205,6 +205,8 @@ void wholeAndParts() {
         const NodeResult &whole = at(a, nodeAt(full, 3, 2)), &part = at(b, 1);
         same("quarter, " + name + ", w at the centre, in.", "whole slab", whole.w, part.w);
         same("quarter, " + name + ", stress there, psi", "whole slab", whole.layers[0].sx, part.layers[0].sx);
+        same("quarter, " + name + ", s1 on an axis, psi", "whole slab",
+             at(a, nodeAt(full, 4, 2)).layers[0].s1, at(b, nodeAt(quarter, 1, 0)).layers[0].s1);
         same("quarter, " + name + ", w at the corner, in.", "whole slab", at(a, nodeAt(full, 6, 4)).w,
              at(b, nodeAt(quarter, 3, 2)).w);
     }

@@ -1,6 +1,8 @@
 // What a problem must fulfil before it is solved.
 #include <algorithm>
 #include <cmath>
+#include <iomanip>
+#include <sstream>
 
 #include "solvers/plate/mesh.h"
 
@@ -23,7 +25,7 @@ class Checker {
         if (!fault_) foundation();
         if (!fault_) loads();
         if (!fault_) contact();
-        if (!fault_ && p_.foundation.kind != FoundationKind::Liquid) symmetry();
+        if (!fault_) symmetry();
         return fault_;
     }
 
@@ -242,18 +244,31 @@ class Checker {
                 demandArea(known, "LS", ": there is no slab " + std::to_string(a.LS) + ".");
                 if (!known) return;
                 const Slab& slab = p_.slabs[static_cast<std::size_t>(a.LS) - 1];
-                demandArea(a.XL2 > a.XL1 && within(a.XL1, a.XL2, slab.X), "XL1",
-                           " must lie on slab " + std::to_string(a.LS) + ", with XL1 less than XL2.");
-                demandArea(a.YL2 > a.YL1 && within(a.YL1, a.YL2, slab.Y), "YL1",
-                           " must lie on slab " + std::to_string(a.LS) + ", with YL1 less than YL2.");
+                const auto demandSides = [&](double low, double high, const std::vector<double>& grid,
+                                             const std::string& first, const std::string& second) {
+                    const double slack = sameplace * (grid.back() - grid.front());
+                    const std::string must = " must lie on slab " + std::to_string(a.LS) +
+                                             ", which goes from " + number(grid.front()) + " to " +
+                                             number(grid.back()) + "; ";
+                    demandArea(low >= grid.front() - slack, first.c_str(),
+                               must + first + " is " + number(low) + ".");
+                    demandArea(high <= grid.back() + slack, second.c_str(),
+                               must + second + " is " + number(high) + ".");
+                    demandArea(high > low, second.c_str(),
+                               ": " + second + " is " + number(high) + " and must be greater than " + first +
+                                   ", " + number(low) + ".");
+                };
+                demandSides(a.XL1, a.XL2, slab.X, "XL1", "XL2");
+                demandSides(a.YL1, a.YL2, slab.Y, "YL1", "YL2");
                 demandArea(std::isfinite(a.QQ), "QQ", ": the pressure is no number.");
             }
         demand(std::isfinite(p_.TEMP) && std::isfinite(p_.CT), "TEMP", "TEMP or CT is no number.");
     }
 
-    static bool within(double low, double high, const std::vector<double>& grid) {
-        const double slack = sameplace * (grid.back() - grid.front());
-        return low >= grid.front() - slack && high <= grid.back() + slack;
+    static std::string number(double x) {
+        std::ostringstream text;
+        text << std::setprecision(7) << x;
+        return text.str();
     }
 
     void contact() {
@@ -277,30 +292,49 @@ class Checker {
         return pairs;
     }
 
-    /// On a foundation that spreads pressure, mirror images act, too: they need one line each, at an edge.
+    /// An axis of symmetry runs along an outer grid line of the slabs and holds every node there. On a liquid
+    /// foundation both outer lines may be axes, and slabs that no joint links have lines of their own. On one
+    /// that spreads pressure mirror images act, too: there the axis is one line for all.
     void symmetry() {
         const Mesh mesh = makeMesh(p_);
-        const auto line = [&](const std::vector<int>& nodes, std::size_t axis, const char* field) {
-            if (nodes.empty() || fault_) return;
-            const auto place = [&](const Node& n) {
-                return (axis == 0 ? n.x : n.y) + mesh.origin[static_cast<std::size_t>(n.slab)][axis];
-            };
-            double low = 1e300, high = -1e300;
-            for (const Node& n : mesh.nodes) low = std::min(low, place(n)), high = std::max(high, place(n));
-            const double at = place(mesh.nodes[static_cast<std::size_t>(nodes[0] - 1)]),
-                         slack = sameplace * (high - low);
-            demand(at <= low + slack || at >= high - slack, field,
-                   std::string(field) + ": the axis of symmetry must stand at an edge of the slabs.");
-            for (int n : nodes)
-                if (Fault* f = demand(
-                        std::abs(place(mesh.nodes[static_cast<std::size_t>(n - 1)]) - at) <= slack, field,
-                        std::string(field) + ": node " + std::to_string(n) +
-                            " does not lie on the axis of symmetry of the nodes before."))
-                    f->node = n;
-        };
-        line(p_.NODSY, 0, "NODSY");
-        line(p_.NODSX, 1, "NODSX");
+        axis(mesh, p_.NODSY, 0, "NODSY");
+        axis(mesh, p_.NODSX, 1, "NODSX");
     }
+
+    void axis(const Mesh& mesh, const std::vector<int>& nodes, std::size_t across, const char* field) {
+        if (nodes.empty() || fault_) return;
+        const bool spreads = p_.foundation.kind != FoundationKind::Liquid;
+        const auto slabOf = [&](int n) { return static_cast<std::size_t>(mesh.nodes[index(n)].slab); };
+        const auto group = [&](int n) { return spreads ? 0 : mesh.group[slabOf(n)]; };
+        const auto place = [&](int n) {
+            const Node& node = mesh.nodes[index(n)];
+            return (across == 0 ? node.x : node.y) + mesh.origin[slabOf(n)][across];
+        };
+        for (const int chosen : nodes) {
+            double low = 1e300, high = -1e300;
+            for (int n = 1; n <= mesh.count(); ++n)
+                if (group(n) == group(chosen)) low = std::min(low, place(n)), high = std::max(high, place(n));
+            const double slack = sameplace * (high - low), at = place(chosen);
+            const bool outer = at <= low + slack || at >= high - slack;
+            const auto demandNode = [&](bool good, int node, const std::string& text) {
+                if (Fault* f = demand(good, field, "Node " + std::to_string(node) + text)) f->node = node;
+            };
+            const std::string along = across == 0 ? "along y" : "along x";
+            demandNode(outer, chosen,
+                       " is no node of the axis of symmetry, which is an edge of the slabs " + along + ".");
+            demandNode(!spreads || std::abs(at - place(nodes[0])) <= slack, chosen,
+                       " does not lie on the axis of symmetry " + along + " of the nodes before.");
+            for (int n = 1; n <= mesh.count() && !fault_; ++n)
+                if (group(n) == group(chosen) && std::abs(place(n) - at) <= slack)
+                    demandNode(std::ranges::find(nodes, n) != nodes.end(), n,
+                               " lies on the axis of symmetry " + along + " of node " +
+                                   std::to_string(chosen) +
+                                   ", too; all nodes of that grid line must be listed.");
+            if (fault_) return;
+        }
+    }
+
+    static std::size_t index(int node) { return static_cast<std::size_t>(node - 1); }
 
     const Problem& p_;
     int nodeCount_ = 0;

@@ -101,7 +101,10 @@ LayerResult layerResult(const Section::Layer& layer, const Eigen::Vector3d& curv
 std::vector<NodeResult> nodeResults(const Problem& problem, const Mesh& mesh, const Structure& structure,
                                     const Start& start, const ContactResult& contact) {
     const Vector all = structure.expand(contact.response.d);
-    const Matrix curvatures = nodalCurvatures(mesh, all);
+    Matrix curvatures = nodalCurvatures(mesh, all);
+    // An axis of symmetry has no twist; the elements on one side of it alone give some.
+    for (const auto* axis : {&problem.NODSX, &problem.NODSY})
+        for (const int n : *axis) curvatures(n - 1, 2) = 0;
     std::vector<NodeResult> results;
     for (int n = 0; n < mesh.count(); ++n) {
         const Section& section = structure.section(n);

@@ -61,11 +61,15 @@ std::vector<plate::ContactState> statesAfter(const plate::Solution& solution, co
     return states;
 }
 
+void tellWarnings(const std::vector<std::string>& sentences) {
+    for (const std::string& warning : sentences) std::cout << "*** " << warning << " ***\n";
+}
+
 void tell(const SlabSet& set, int n, const plate::Case& c) {
     std::cout << "Data set " << n << ", period " << c.period + 1 << ", load group " << c.group + 1;
     if (c.contact.checked) std::cout << ": " << c.contact.cycles << " contact cycles";
     std::cout << '\n';
-    for (const std::string& warning : warnings(set, c)) std::cout << "*** " << warning << " ***\n";
+    tellWarnings(warnings(set, c));
     std::cout << std::flush;
 }
 
@@ -74,6 +78,8 @@ plate::Solution solveDataSet(const SlabSet& set, int n, const plate::Problem& pr
     plate::Solution solution = plate::solve(problem);
     if (solution.fault) throw badDeck(*solution.fault, n);
     writeSlabEcho(out.text, set, n);
+    writeDataWarnings(out.text, set);
+    if (!quiet) tellWarnings(dataWarnings(set));
     for (const plate::Case& c : solution.cases) {
         if (!quiet) tell(set, n, c);
         writeCase(out.text, set, c);

@@ -24,7 +24,7 @@ void nodes(std::ostream& out, const std::string& name, int entries, const auto& 
             out, name, 1, entries, [&](int i) { return list[i]; }, 12);
 }
 
-void general(std::ostream& out, const SlabSet& set) {
+void general(std::ostream& out, const SlabSet& set, const SlabUnits& u) {
     const auto word = [](const auto& words, int i) { return words.at(static_cast<std::size_t>(i)); };
     item(out, "Foundation NFOUND", set.NFOUND, word(FOUNDATIONS, set.NFOUND));
     item(out, "Damage analysis NDAMA", set.NDAMA, word(DAMAGE, set.NDAMA));
@@ -41,6 +41,11 @@ void general(std::ostream& out, const SlabSet& set) {
         item(out, "Continuation INPUT", 1, "gaps and precompressions of the data set before");
     item(out, "Tolerance DEL", set.DEL.number());
     item(out, "Checked node NNCK", set.NNCK);
+    item(out, withUnit("Its greatest deflection FMAX", u.length), set.FMAX.number(),
+         set.FMAX.number() == 0 ? "no limit" : "");
+    item(out, "Detailed printout MDPO", set.MDPO, set.MDPO == 1 ? "all nodes" : "");
+    item(out, "Nodes for printout NPRINT", set.NPRINT, set.NPRINT == 0 ? "all of the loaded slab" : "");
+    nodes(out, "Nodes for printout NP", set.NPRINT, set.NP);
 }
 
 void slabs(std::ostream& out, const SlabSet& set, const SlabUnits& u) {
@@ -92,8 +97,9 @@ void foundation(std::ostream& out, const SlabSet& set, const SlabUnits& u) {
         item(out, "Poisson's ratio PRS", set.PRS.number());
     } else {
         const int layers = count(set.NL.number());
-        row(out, withUnit("Thickness TH", u.length), 1, layers - 1,
-            [&](int k) { return set.FOUNDATION[k].TH.number(); });
+        if (layers > 1)
+            row(out, withUnit("Thickness TH", u.length), 1, layers - 1,
+                [&](int k) { return set.FOUNDATION[k].TH.number(); });
         row(out, withUnit("Young's modulus E", u.stress), 1, layers,
             [&](int k) { return set.FOUNDATION[k].E.number(); });
         row(out, "Poisson's ratio PRBF", 1, layers, [&](int k) { return set.FOUNDATION[k].PRBF.number(); });
@@ -153,6 +159,22 @@ void loads(std::ostream& out, const SlabSet& set, const SlabUnits& u) {
         [&](int i) { return set.MOMENTY[i].FMY; });
 }
 
+void damage(std::ostream& out, const SlabSet& set, const SlabUnits& u) {
+    if (set.NDAMA == 0) return;
+    line(out);
+    const auto property = [&](const std::string& name, auto value) {
+        row(out, name, 1, set.NLAYER, [&](int k) { return value(set.LAYER[k]); });
+    };
+    property(withUnit("Modulus of rupture PMR", u.stress), [](const auto& l) { return l.PMR; });
+    if (set.NDAMA == 2) {
+        property("Fatigue coefficient F1", [](const auto& l) { return l.F1; });
+        property("Fatigue coefficient F2", [](const auto& l) { return l.F2; });
+    }
+    for (int p = 1; p <= set.NPY; ++p)
+        row(out, printed("Repetitions TNLR, period %d", p), 1, set.NLG,
+            [&](int g) { return set.TNLR[p][g].number(); });
+}
+
 }  // namespace
 
 void writeSlabEcho(std::ostream& out, const SlabSet& set, int n) {
@@ -162,9 +184,10 @@ void writeSlabEcho(std::ostream& out, const SlabSet& set, int n) {
     line(out, printed("Data set %d: ", n) + set.TITLE);
     line(out);
     line(out, std::string("Input, units: ") + units.length + ", " + units.stress + ", " + units.force);
-    general(out, set);
+    general(out, set, units);
     slabs(out, set, units);
     foundation(out, set, units);
     joints(out, set, units);
     loads(out, set, units);
+    damage(out, set, units);
 }

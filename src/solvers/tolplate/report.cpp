@@ -1,6 +1,7 @@
 #include "solvers/tolplate/report.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numeric>
 
@@ -33,7 +34,40 @@ std::vector<int> stressNodes(const SlabSet& set, const plate::Case& c) {
 }
 
 /// What is only round-off beside `scale` prints as 0.
-double cleaned(double value, double scale) { return std::abs(value) < 1e-12 * scale ? 0 : value; }
+double cleaned(double value, double scale) { return std::abs(value) < 1e-9 * scale ? 0 : value; }
+
+/// The largest values of each kind in a case. Where a kind is round-off all over, as the stresses under even
+/// pressure are, it is measured by what causes it: by the deflection, or by the force that acts.
+struct Scales {
+    double w = 0, rotation = 0, force = 0, lineMoment = 0, moment = 0;
+    std::array<double, 2> stress{};  ///< of each slab layer
+};
+
+Scales scalesOf(const SlabSet& set, const plate::Case& c) {
+    const auto grow = [](double& scale, double value) { scale = std::max(scale, std::abs(value)); };
+    Scales scales;
+    double reactions = 0, extent = 0;
+    for (const plate::NodeResult& r : c.nodes) {
+        grow(scales.w, r.w);
+        grow(scales.rotation, r.rx), grow(scales.rotation, r.ry);
+        reactions += std::abs(r.reaction);
+        for (std::size_t k = 0; k < r.layers.size(); ++k) {
+            const plate::LayerResult& l = r.layers[k];
+            grow(scales.stress[k], l.s1), grow(scales.stress[k], l.s2);
+            grow(scales.lineMoment, l.mx), grow(scales.lineMoment, l.my), grow(scales.lineMoment, l.mxy);
+        }
+    }
+    for (int s = 1; s <= set.NSLAB; ++s)
+        grow(extent, set.SLAB[s].X[set.SLAB[s].NX]), grow(extent, set.SLAB[s].Y[set.SLAB[s].NY]);
+    scales.force = std::max(reactions, std::abs(c.equilibrium.load));
+    scales.moment = scales.force * extent;
+    grow(scales.rotation, scales.w / extent);
+    grow(scales.lineMoment, scales.force);
+    for (int k = 1; k <= set.NLAYER; ++k)
+        grow(scales.stress[static_cast<std::size_t>(k - 1)],
+             scales.force / (set.LAYER[k].T * set.LAYER[k].T));
+    return scales;
+}
 
 void writeContact(std::ostream& out, const SlabSet& set, const plate::ContactReport& r) {
     const int nodes = nodeCount(set);
@@ -44,12 +78,18 @@ void writeContact(std::ostream& out, const SlabSet& set, const plate::ContactRep
              printed("Check of the contact: %d nodes that would lie inside the foundation returned, %d nodes "
                      "under tension left; %d nodes in contact",
                      r.returned, r.released, r.afterCheck));
+    if (r.ranOut && r.settled)
+        line(
+            out,
+            printed("NCYCLE = %d cycles were used up while nodes were under tension; the check went on until "
+                    "the contact had settled.",
+                    count(set.NCYCLE.number())));
     if (r.restarted)
         line(out, "The cycles took out so many nodes that a slab lost its support; the check began anew.");
 }
 
 /// At all nodes. The detailed printout adds what a data set that continues from this one starts with.
-void writeDeflections(std::ostream& out, const SlabSet& set, const plate::Case& c) {
+void writeDeflections(std::ostream& out, const SlabSet& set, const plate::Case& c, const Scales& scales) {
     const SlabUnits& u = slabUnits(set.NUNIT);
     const bool detailed = set.MDPO == 1;
     line(out);
@@ -60,14 +100,18 @@ void writeDeflections(std::ostream& out, const SlabSet& set, const plate::Case& 
     for (int n = 1; n <= nodeCount(set); ++n) {
         const plate::NodeResult& r = at(c, n);
         const auto i = static_cast<std::size_t>(n - 1);
-        std::string text = printed("  %5d", n) + cell(r.w) + cell(r.rx) + cell(r.ry) + cell(r.reaction) +
-                           printed("%9s", r.contact ? "yes" : "no");
-        if (detailed) text += cell(c.state.gap[i]) + cell(c.state.reaction[i]);
+        std::string text = printed("  %5d", n) + cell(cleaned(r.w, scales.w));
+        for (double turn : {r.rx, r.ry}) text += cell(cleaned(turn, scales.rotation));
+        text += cell(cleaned(r.reaction, scales.force)) + printed("%9s", r.contact ? "yes" : "no");
+        if (detailed)
+            text +=
+                cell(cleaned(c.state.gap[i], scales.w)) + cell(cleaned(c.state.reaction[i], scales.force));
         line(out, text);
     }
 }
 
-void writeStresses(std::ostream& out, const SlabSet& set, const plate::Case& c, int layer) {
+void writeStresses(std::ostream& out, const SlabSet& set, const plate::Case& c, const Scales& scales,
+                   int layer) {
     const SlabUnits& u = slabUnits(set.NUNIT);
     line(out);
     line(out, printed("Stresses at the bottom of slab layer %d (", layer) + u.stress + "), moments (" +
@@ -75,28 +119,28 @@ void writeStresses(std::ostream& out, const SlabSet& set, const plate::Case& c, 
     line(out,
          "   Node           sx           sy          sxy           s1           s2           mx           my"
          "          mxy");
+    const double stress = scales.stress[static_cast<std::size_t>(layer - 1)];
     for (int n : stressNodes(set, c)) {
         const plate::LayerResult& l = at(c, n).layers[static_cast<std::size_t>(layer - 1)];
-        const double stress = std::max(std::abs(l.s1), std::abs(l.s2));
-        const double moment = std::max({std::abs(l.mx), std::abs(l.my), std::abs(l.mxy)});
         std::string text = printed("  %5d", n);
         for (double s : {l.sx, l.sy, l.sxy, l.s1, l.s2}) text += cell(cleaned(s, stress) / u.perStress);
-        for (double m : {l.mx, l.my, l.mxy}) text += cell(cleaned(m, moment));
+        for (double m : {l.mx, l.my, l.mxy}) text += cell(cleaned(m, scales.lineMoment));
         line(out, text);
     }
     const LargestStress most = largestStress(set, c, layer);
-    line(out, printed("Largest principal stress %.6g ", most.value) + u.stress +
-                  printed(" at node %d", most.node));
+    line(out, printed("Largest principal stress %.6g ", cleaned(most.value, stress / u.perStress)) +
+                  u.stress + printed(" at node %d", most.node));
 }
 
-void writeJoints(std::ostream& out, const SlabSet& set, const plate::Case& c) {
+void writeJoints(std::ostream& out, const SlabSet& set, const plate::Case& c, const Scales& scales) {
     if (c.joints.empty()) return;
     const SlabUnits& u = slabUnits(set.NUNIT);
     line(out);
     line(out, std::string("Joint forces: shear down on node b (") + u.force + "), moment (" + u.moment + ")");
     line(out, "  Joint  Node a  Node b        shear       moment         bars");
     for (const plate::JointResult& j : c.joints)
-        line(out, printed("  %5d  %6d  %6d", j.joint, j.nodeA, j.nodeB) + cell(j.shear) + cell(j.moment) +
+        line(out, printed("  %5d  %6d  %6d", j.joint, j.nodeA, j.nodeB) +
+                      cell(cleaned(j.shear, scales.force)) + cell(cleaned(j.moment, scales.moment)) +
                       cell(j.bars));
 }
 
@@ -114,6 +158,24 @@ void writeHeading(std::ostream& out, const std::string& program, const std::stri
     line(out, "axis towards the viewer.");
 }
 
+std::vector<std::string> dataWarnings(const SlabSet& set) {
+    std::vector<std::string> sentences;
+    const bool weight = set.NWT.number() == 1, continues = set.INPUT.number() == 1;
+    for (int k = 1; k <= set.NLAYER && weight; ++k)
+        if (set.LAYER[k].GAMA == 0)
+            sentences.push_back(
+                printed("NWT is 1, but GAMA of slab layer %d is 0: this layer has no weight.", k));
+    const auto twice = [&](const char* flag, const char* what) {
+        sentences.push_back(
+            printed("%s is 1 with INPUT = 1: %s acts once more, on top of that of the data set "
+                    "before.",
+                    flag, what));
+    };
+    if (continues && weight) twice("NWT", "the weight");
+    if (continues && set.NTEMP.number() == 1) twice("NTEMP", "the temperature");
+    return sentences;
+}
+
 std::vector<std::string> warnings(const SlabSet& set, const plate::Case& c) {
     std::vector<std::string> sentences;
     if (c.deflectionPassed)
@@ -123,12 +185,13 @@ std::vector<std::string> warnings(const SlabSet& set, const plate::Case& c) {
         sentences.push_back(
             printed("The residual %.3g of the equations passes DEL = %.3g: results are less accurate.",
                     c.residual, set.DEL.number()));
-    if (c.contact.ranOut)
-        sentences.push_back(printed("NCYCLE = %d cycles were used up while nodes were under tension.",
-                                    count(set.NCYCLE.number())));
     if (!c.contact.settled)
         sentences.push_back("The contact did not settle: some nodes disagree with their forces.");
     return sentences;
+}
+
+void writeDataWarnings(std::ostream& out, const SlabSet& set) {
+    for (const std::string& warning : dataWarnings(set)) line(out, "*** " + warning + " ***");
 }
 
 void writeCase(std::ostream& out, const SlabSet& set, const plate::Case& c) {
@@ -142,9 +205,10 @@ void writeCase(std::ostream& out, const SlabSet& set, const plate::Case& c) {
                   printed(", reactions %.8g ", c.equilibrium.reaction) + u.force +
                   printed(", out of balance %.1e of the load in force, %.1e in moment",
                           c.equilibrium.forceError, c.equilibrium.momentError));
-    writeDeflections(out, set, c);
-    for (int k = 1; k <= set.NLAYER; ++k) writeStresses(out, set, c, k);
-    writeJoints(out, set, c);
+    const Scales scales = scalesOf(set, c);
+    writeDeflections(out, set, c, scales);
+    for (int k = 1; k <= set.NLAYER; ++k) writeStresses(out, set, c, scales, k);
+    writeJoints(out, set, c, scales);
 }
 
 void writeDamage(std::ostream& out, const SlabSet& set, const plate::Solution& solution,

@@ -46,6 +46,16 @@ TEST_P(SlabExamples, AgreeInBothUnitSystems) {
     }
 }
 
+TEST(SlabManual, ShowsADeckThatIsSolvedAsItStands) {
+    const std::string page = example("../src/text/pages/manual_slab_file.txt");
+    const std::size_t first = page.find(" 1  (1) NPROB\n"), behind = page.find("\n\n", first);
+    ASSERT_NE(behind, std::string::npos);
+    const TemporaryDirectory folder;
+    folder.write("slab.DAT", page.substr(first, behind + 1 - first));
+    EXPECT_EQ(run({folder.path() + "slab", "--quiet"}).errors, "");
+    EXPECT_EQ(folder.read("slab.TXT").find("***"), std::string::npos);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, SlabExamples, testing::Range(1, 7));
 
 Results solveExample(const std::string& deck) {
