@@ -43,6 +43,21 @@ bool isNonlinear(const LayeredSet& s, int layer) {
     return false;
 }
 
+/// The lists of nonlinear and viscoelastic layers name layers throughout. Where they do not, as when a deck
+/// could not be read so far, nothing can be said of a modulus of 0; their own rules tell what is wrong.
+bool listsNameLayers(const LayeredSet& s) {
+    const auto all = [](const Variant& count, const auto& layers, auto number) {
+        if (!count.isNumeric() || !isWhole(count.number(), 1, 12)) return false;
+        for (int n = 1; n <= static_cast<int>(count.number()); ++n)
+            if (const Variant& layer = number(layers[n]); !layer.isNumeric() || layer.number() < 1)
+                return false;
+        return true;
+    };
+    const bool nonlinear = s.MATL == 2 || s.MATL == 4;
+    return (!nonlinear || all(s.NOLAY, s.NOLLAY, [](const auto& l) { return l.LAYNO; })) &&
+           (!isViscous(s) || all(s.NVL, s.VISLAY, [](const auto& l) { return l.LNV; }));
+}
+
 /// The plot file holds moduli as whole numbers of this size.
 constexpr Double LARGEST_MODULUS = 2147483647;
 
@@ -83,7 +98,8 @@ const ValueRule<Set> rules[] = {
     {8, "ZC", HOLDS(x >= 0), "the depth must not be negative"},
     {10, "INT", HOLDS(x == 0 || x == 1), "INT must be 0 or 1"},
     {11, "E", HOLDS(s.MATL != 1 || x > 0), "the modulus must be greater than 0"},
-    {11, "E", HOLDS(x > 0 || isViscoelastic(s, at.k) || (x == 0 && isNonlinear(s, at.k))),
+    {11, "E",
+     HOLDS(x > 0 || isViscoelastic(s, at.k) || (x == 0 && (isNonlinear(s, at.k) || !listsNameLayers(s)))),
      "the modulus must be greater than 0; 0 is for nonlinear and viscoelastic layers only, cards (26) and "
      "(37)"},
     {11, "E", HOLDS(x <= LARGEST_MODULUS || isViscoelastic(s, at.k)), "the modulus must be below 2147483648"},
@@ -147,16 +163,16 @@ const ValueRule<Set> rules[] = {
 
 }  // namespace
 
-std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number) {
-    return checkCards<Set>(layeredCards(), rules, set, number);
+std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number, const DeckPlace& end) {
+    return checkCards<Set>(layeredCards(), rules, set, number, end);
 }
 
-std::optional<DeckFault> checkLayeredDeck(const Store& store) {
+std::optional<DeckFault> checkLayeredDeck(const Store& store, const DeckPlace& end) {
     if (!isWhole(store.NPROB, 1, 5)) {
         const DeckPlace where{0, 1, "NPROB", {}};
         return DeckFault{where, where.text(numberText(store.NPROB)) + ": there must be 1 to 5 data sets"};
     }
     for (int number = 1; number <= store.NPROB; ++number)
-        if (auto fault = checkLayeredSet(store.layered[number], number)) return fault;
+        if (auto fault = checkLayeredSet(store.layered[number], number, end)) return fault;
     return std::nullopt;
 }

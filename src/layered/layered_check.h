@@ -13,7 +13,8 @@ struct Store;
 /// and `NDAMA` hold: every value is a finite number, counts are whole and within the deck's limits, and
 /// geometry, materials, interfaces, loads, damage and the integration's settings are what a layered system
 /// can have.
-std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number);
+std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number, const DeckPlace& end = {});
 
-/// The first fault of the number of data sets, or of data sets 1 to `NPROB`.
-std::optional<DeckFault> checkLayeredDeck(const Store& store);
+/// The first fault of the number of data sets, or of data sets 1 to `NPROB`. `end` is where the reading of the
+/// deck failed, if it did: values from there on are not looked at.
+std::optional<DeckFault> checkLayeredDeck(const Store& store, const DeckPlace& end = {});

@@ -44,16 +44,12 @@ class LayeredReader : public CardReader<LayeredSet> {
         CardReader::cardEnd(card);
         if (card.number == 4) {
             oldFormat_ = label().size() < shortestNewLabel;
-            if (oldFormat_)
-                remarks_.push_back(where_.text() +
-                                   ": the label is short, which marks the old format: card (5) has no NUNIT");
+            if (oldFormat_) remark("the label is short, which marks the old format: card (5) has no NUNIT");
             const bool granular = set().MATL == 2 || set().MATL == 4;
             if (oldFormat_ && granular && hooks_.oldFormatPHI) hooks_.oldFormatPHI(where_.set);
         }
         if (card.number == 29 && label().size() < shortestNewLabel)
-            remarks_.push_back(
-                where_.text() +
-                ": the label is short, so that GAM is taken per cubic inch and multiplied by 1728");
+            remark("the label is short, so that GAM is taken per cubic inch and multiplied by 1728");
         if (card.number == 9 && !label().starts_with("(9)"))
             throw NotADeck{labelLine(), "the label \"(9)\" is not there"};
     }

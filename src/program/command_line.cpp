@@ -51,7 +51,7 @@ int solve(const std::string& name, const std::string& programDirectory,
           const std::vector<std::string>& options) {
     const std::string deck = deckFile(name);
     const char* solver = solverOf(deckKind(deck));
-    if (!solver) return fail(deck, "this is neither a layered nor a slab deck");
+    if (!solver) return fail(deck, "this is no data file of layered systems or slabs");
     std::vector<std::string> arguments{deck.substr(0, deck.size() - 4)};
     arguments.insert(arguments.end(), options.begin(), options.end());
     return runAndWait(programDirectory + "/" + solver, arguments);

@@ -222,8 +222,8 @@ std::optional<DeckFault> checkContinuation(const Set& first, const Set& second) 
 
 }  // namespace
 
-std::optional<DeckFault> checkSlabSet(const SlabSet& set, int number) {
-    if (auto fault = checkCards<Set>(slabCards(), rules, set, number)) return fault;
+std::optional<DeckFault> checkSlabSet(const SlabSet& set, int number, const DeckPlace& end) {
+    if (auto fault = checkCards<Set>(slabCards(), rules, set, number, end)) return fault;
     if (number == 1 && set.INPUT.number() != 0) {
         const DeckPlace where = placeOfSlabField("INPUT", number);
         return DeckFault{where, where.text("1") + ": there is no data set before to continue from"};
@@ -231,14 +231,15 @@ std::optional<DeckFault> checkSlabSet(const SlabSet& set, int number) {
     return std::nullopt;
 }
 
-std::optional<DeckFault> checkSlabDeck(const Store& store) {
+std::optional<DeckFault> checkSlabDeck(const Store& store, const DeckPlace& end) {
     if (!store.SlabNPROB.isNumeric() || !isWhole(store.SlabNPROB.number(), 1, 2)) {
         const DeckPlace where{0, 1, "NPROB", {}};
         return DeckFault{where, where.text(store.SlabNPROB.text()) + ": there must be 1 or 2 data sets"};
     }
     for (int number = 1; number <= store.SlabNPROB.number(); ++number)
-        if (auto fault = checkSlabSet(store.slab[number], number)) return fault;
-    if (store.SlabNPROB.number() == 2 && store.slab[2].INPUT.number() == 1)
+        if (auto fault = checkSlabSet(store.slab[number], number, end)) return fault;
+    const bool whole = end.card == 0;
+    if (whole && store.SlabNPROB.number() == 2 && store.slab[2].INPUT.number() == 1)
         return checkContinuation(store.slab[1], store.slab[2]);
     return std::nullopt;
 }

@@ -78,10 +78,11 @@ class SlabReader : public CardReader<SlabSet> {
         if (card.number == 4) {
             old_ = withoutTrailingBlanks(label()).size() <= longestOldLabel;
             if (old_)
-                remarks_.push_back(where_.text() +
-                                   ": the label is short, which marks the old format: card (6) "
-                                   "has no NUNIT, and unit weights are per cubic inch");
+                remark(
+                    "the label is short, which marks the old format: card (6) has no NUNIT, and unit weights "
+                    "are per cubic inch");
         }
+        if (card.number == 7) line7_ = labelLine();
         if (card.number == 9) label9_ = label();
     }
 
@@ -104,15 +105,17 @@ class SlabReader : public CardReader<SlabSet> {
     void convertUnitWeights() {
         for (int layer = 1; layer <= 2; ++layer) {
             Single& GAMA = set().LAYER[layer].GAMA;
-            where_.field = "GAMA";
-            where_.at = {layer, 0, 0};
+            where_ = {where_.set, 7, "GAMA", {layer, 0, 0}};
+            reading_.line = line7_;
             GAMA = perCubicFoot(GAMA);
         }
+        reading_.line = 0;
     }
 
     bool old_ = false;
     bool label6Passed_ = false;  ///< the label of card (6) stood where `UL` is now
     std::string label9_;
+    int line7_ = 0;
 };
 
 }  // namespace

@@ -32,7 +32,7 @@ void requireSound(const DeckReadResult& read, const std::optional<DeckFault>& fa
     if (read.outcome == Complete && !fault) return;
     std::string sentence;
     const auto add = [&](const std::string& part) { sentence += (sentence.empty() ? "" : "; ") + part; };
-    if (read.outcome == NotADeck) add("this is not a " + kind + " deck: " + read.sentence());
+    if (read.outcome == NotADeck) add("this is no data file of " + kind + ": " + read.sentence());
     if (fault && (read.outcome == Complete || standsBefore(fault->where, read.where)))
         add(fault->sentence);
     else if (read.outcome == Failed)
@@ -115,7 +115,7 @@ int SolverCommand::fail(const ResultFiles& files, const std::string& sentence) c
     std::cerr << program_.name << ": " << files.deck << ": " << sentence << std::endl;
     removeResults(files);
     std::ofstream(files.text, std::ios::binary)
-        << program_.name << " " TOLMARK_VERSION "\r\nDeck: " << files.deck
+        << program_.name << " " TOLMARK_VERSION "\r\nData file: " << files.deck
         << "\r\n\r\nNot solved: " << sentence << "\r\n";
     return BAD_DECK;
 }

@@ -33,12 +33,16 @@ inline bool isWhole(Double x, Double least, Double most) {
 template <class Set>
 class CardChecker : public CardWalker<Set> {
   public:
-    /// The cells are only read.
-    CardChecker(const Set& set, std::span<const ValueRule<Set>> rules, DeckPlace& where)
-        : CardWalker<Set>(const_cast<Set&>(set), where), rules_(rules) {}
+    /// Thrown where the values end that were read.
+    struct End {};
+
+    /// The cells are only read. `end` is where the reading of the deck failed.
+    CardChecker(const Set& set, std::span<const ValueRule<Set>> rules, DeckPlace& where, const DeckPlace& end)
+        : CardWalker<Set>(const_cast<Set&>(set), where), rules_(rules), end_(end) {}
 
   private:
     void value(const Card<Set>& card, const Run<Set>&, Cell cell) override {
+        stopAtEnd();
         if (std::holds_alternative<std::string*>(cell)) return;
         const Variant value = std::visit([](const auto* held) { return Variant(*held); }, cell);
         if (!value.isNumeric()) fail(value.isEmptyText() ? "empty" : value.text(), "a number is needed");
@@ -52,20 +56,36 @@ class CardChecker : public CardWalker<Set> {
                 fail(value.text(), rule.demand);
     }
 
+    /// A label that failed has no field: all values of its card were read.
+    void stopAtEnd() {
+        DeckPlace here = this->where_;
+        const bool label = end_.field.empty();
+        if (label) here.field.clear();
+        const bool atEnd = here == end_;
+        if (label ? wasAtEnd_ && !atEnd : atEnd) throw End{};
+        wasAtEnd_ = atEnd;
+    }
+
     [[noreturn]] void fail(const std::string& said, const std::string& demand) const {
         throw DeckFault{this->where_, this->where_.text(said) + ": " + demand};
     }
 
     std::span<const ValueRule<Set>> rules_;
+    const DeckPlace end_;
+    bool wasAtEnd_ = false;
 };
 
-/// The first fault of data set `number` in the order of the cards, or nothing.
+/// The first fault of data set `number` in the order of the cards, or nothing. `end`: values from there on
+/// were not read and are not looked at.
 template <class Set>
 std::optional<DeckFault> checkCards(const CardTable<Set>& table, std::span<const ValueRule<Set>> rules,
-                                    const Set& set, int number) {
+                                    const Set& set, int number, const DeckPlace& end) {
+    if (end.set != 0 && number > end.set) return std::nullopt;
     DeckPlace where{number, 0, "", {}};
     try {
-        CardChecker<Set>(set, rules, where).walk(table);
+        CardChecker<Set>(set, rules, where, end).walk(table);
+    } catch (const typename CardChecker<Set>::End&) {
+        return std::nullopt;
     } catch (const DeckFault& fault) {
         return fault;
     } catch (const RunTimeError& error) {

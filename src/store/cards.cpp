@@ -1,5 +1,7 @@
 #include "store/cards.h"
 
+#include <regex>
+
 std::string DeckPlace::fieldText() const {
     std::string indexes;
     for (const int index : {at.i, at.j, at.k})
@@ -20,21 +22,15 @@ std::string DeckReadResult::sentence() const {
     return line == 0 ? reason : "line " + std::to_string(line) + ": " + where.text() + ": " + reason;
 }
 
-std::string remarkOnLabel(const std::string& label, int line, const DeckPlace& where) {
-    const std::string first = label.substr(0, label.find(' '));
+std::string remarkOnLabel(const std::string& label, int card) {
     std::string remark;
-    if (first.starts_with('(') && first.ends_with(')')) {
-        if (first == "(" + std::to_string(where.card) + ")") return "";
-        remark = "the label is that of card " + first + "; is a line missing, or a count wrong?";
-    } else {
-        try {
-            ToDouble(first);
-        } catch (const RunTimeError&) {
-            return "";
-        }
-        remark = "the values from " + first + " on were not read; is a line missing, or a count wrong?";
-    }
-    return "line " + std::to_string(line) + ": " + where.text() + ": " + remark;
+    const std::string first = label.substr(0, label.find(' '));
+    if (IsNumeric(first)) remark = "the values from " + first + " on were not read";
+    static const std::regex number(R"((?:^| )\((\d+)\))");
+    std::smatch found;
+    if (std::regex_search(label, found, number) && found[1] != std::to_string(card))
+        remark += (remark.empty() ? "" : ", and ") + ("the label is that of card (" + found.str(1) + ")");
+    return remark.empty() ? "" : remark + "; is a line missing, or a count or a type wrong?";
 }
 
 void writeCell(ListWriter& out, const Cell& cell, Layout layout, TypedText typedText) {
@@ -77,7 +73,7 @@ Integer perCubicFoot(Double perCubicInch) {
     try {
         return ToInteger(perCubicInch * 1728);
     } catch (const RunTimeError& error) {
-        throw RunTimeError(error.fault(), numberText(perCubicInch) + " per cubic inch");
+        throw RunTimeError(error.fault(), numberText(static_cast<Single>(perCubicInch)) + " per cubic inch");
     }
 }
 
@@ -92,7 +88,7 @@ DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const
                        (reading.where.card == cardBehindTitle ? "; has the title a comma, which ends it?"
                                                               : "");
             case Fault::Overflow:
-                return (error.detail().empty() ? item : error.detail()) + " is out of range";
+                return (error.detail().empty() ? item : error.detail()) + " is out of range here";
             case Fault::EndOfFile:
                 return "the file ends here";
             case Fault::SubscriptOutOfRange:
@@ -101,5 +97,6 @@ DeckReadResult failedRead(const RunTimeError& error, const ListReader& in, const
                 return error.what();
         }
     };
-    return {DeckReadResult::Outcome::Failed, reading.where, in.lineNumber(), reason(), reading.remarks};
+    const int line = reading.line != 0 ? reading.line : in.lineNumber();
+    return {DeckReadResult::Outcome::Failed, reading.where, line, reason(), reading.remarks};
 }

@@ -16,6 +16,7 @@
 /// Position of a value: outer and inner repetition of its card, place in its list. 0 where there is none.
 struct Place {
     int i = 0, j = 0, k = 0;
+    bool operator==(const Place&) const = default;
 };
 
 /// A value of a data set, by the type that it is stored in. A text takes the whole line.
@@ -85,6 +86,7 @@ struct DeckPlace {
     int card = 0;  ///< number of the card, 0 when no card is meant
     std::string field;
     Place at;
+    bool operator==(const DeckPlace&) const = default;
 
     /// "EMIN(2, 1)"
     std::string fieldText() const;
@@ -209,17 +211,19 @@ class CardWriter : public CardWalker<Set> {
 /// How far the reading of a deck has come, and what there is to say of it.
 struct DeckReading {
     DeckPlace where;
+    int line = 0;  ///< of `where`; 0: where the reader stands
     std::vector<std::string> remarks;
 };
 
-/// The sentence about a label that is that of another card, or has values in front; empty for any other.
-std::string remarkOnLabel(const std::string& label, int line, const DeckPlace& where);
+/// What there is to say of the label of card `card` when it is that of another card, or has values in front;
+/// empty for any other.
+std::string remarkOnLabel(const std::string& label, int card);
 
 template <class Set>
 class CardReader : public CardWalker<Set> {
   public:
     CardReader(ListReader& in, Set& set, DeckReading& reading)
-        : CardWalker<Set>(set, reading.where), in_(in), remarks_(reading.remarks) {}
+        : CardWalker<Set>(set, reading.where), in_(in), reading_(reading) {}
 
   protected:
     void value(const Card<Set>&, const Run<Set>&, Cell cell) override { readCell(in_, cell); }
@@ -228,15 +232,20 @@ class CardReader : public CardWalker<Set> {
         this->where_.field = "";
         labelLine_ = in_.lineNumber();
         label_ = in_.readText();
-        if (auto remark = remarkOnLabel(label_, labelLine_, this->where_); !remark.empty())
-            remarks_.push_back(std::move(remark));
+        if (const std::string sentence = remarkOnLabel(label_, this->where_.card); !sentence.empty())
+            remark(sentence);
+    }
+    /// "line 4: card (4), data set 1: ..." about the card whose label was read last.
+    void remark(const std::string& sentence) {
+        reading_.remarks.push_back("line " + std::to_string(labelLine_) + ": " + this->where_.text() + ": " +
+                                   sentence);
     }
     /// The label last read, without its leading blank.
     const std::string& label() const { return label_; }
     int labelLine() const { return labelLine_; }
 
     ListReader& in_;
-    std::vector<std::string>& remarks_;
+    DeckReading& reading_;
 
   private:
     std::string label_;

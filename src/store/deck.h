@@ -73,8 +73,9 @@ DeckReadResult readDeck(const Deck<Set>& deck, ListReader& in, Store& store,
         return failedRead(error, in, reading);
     }
     if (const std::string left = in.nextItem(); !left.empty())
-        reading.remarks.push_back("line " + std::to_string(in.lineNumber()) + ": what stands from \"" + left +
-                                  "\" on was not read; it is behind the last data set");
+        reading.remarks.push_back(
+            "line " + std::to_string(in.lineNumber()) + ": what stands from \"" + left +
+            "\" on was not read; it is behind the last data set; is NPROB or a type wrong?");
     DeckReadResult whole;
     whole.remarks = std::move(reading.remarks);
     return whole;

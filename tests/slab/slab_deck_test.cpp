@@ -268,7 +268,7 @@ TEST(SlabDeck, OldestGenerationDiffersInThreePlaces) {
     EXPECT_EQ(read(many, *store).sentence(),
               "line 12: NCNF(4), card (13), data set 1: more than a data file can hold");
     EXPECT_EQ(read(replaced(oldDeck, ".0234375", "150"), *store).sentence(),
-              "line 13: GAMA(2), card (13), data set 1: 150 per cubic inch is out of range");
+              "line 7: GAMA(2), card (7), data set 1: 150 per cubic inch is out of range here");
     EXPECT_EQ(s.LAYER[1].GAMA, 14) << "converted in front of the one that failed";
 
     // Without forces the moments' counts bring no card either.
@@ -289,7 +289,7 @@ TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
         {replaced(deck, " 8   .15", " 8   x"), Outcome::Failed,
          "line 10: PR(1), card (10), data set 1: \"x\" is no number"},
         {replaced(deck, " 3   2   0", " 3   40000   0"), Outcome::Failed,
-         "line 5: NY(1), card (5), data set 1: 40000 is out of range"},
+         "line 5: NY(1), card (5), data set 1: 40000 is out of range here"},
         {replaced(deck, " 3   2   0", " 26   2   0"), Outcome::Failed,
          "line 9: X(1, 6), card (9), data set 1: the label (9) stands where a number should"},
         {deck.substr(0, deck.find("   (22)")), Outcome::Failed,

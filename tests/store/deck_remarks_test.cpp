@@ -24,15 +24,15 @@ std::vector<std::string> layeredRemarks(const std::string& text) {
 
 TEST(DeckRemarks, TellWhatWasPassedOver) {
     const std::string deck = textPage("BED2", "\r\n");
-    const std::string missing = "; is a line missing, or a count wrong?";
+    const std::string missing = "; is a line missing, or a count or a type wrong?";
     EXPECT_TRUE(layeredRemarks(deck).empty());
     EXPECT_THAT(layeredRemarks(replaced(deck, "(6) TH", "9 (6) TH")),
                 ElementsAre("line 6: card (6), data set 1: the values from 9 on were not read" + missing));
     EXPECT_THAT(layeredRemarks(replaced(deck, "(6) TH", "(7) TH")),
                 ElementsAre("line 6: card (6), data set 1: the label is that of card (7)" + missing));
-    EXPECT_THAT(
-        layeredRemarks(deck + "\r\n over\r\n"),
-        ElementsAre("line 26: what stands from \"over\" on was not read; it is behind the last data set"));
+    EXPECT_THAT(layeredRemarks(deck + "\r\n over\r\n"),
+                ElementsAre("line 26: what stands from \"over\" on was not read; it is behind the last data "
+                            "set; is NPROB or a type wrong?"));
     EXPECT_THAT(layeredRemarks(replaced(deck, "(6) TH", "thickness in.")).size(), 0U) << "any words will do";
 }
 
@@ -40,13 +40,13 @@ TEST(DeckRemarks, TellAnOldFormat) {
     const std::string deck = textPage("BED2", "\r\n");
     EXPECT_THAT(
         layeredRemarks(replaced(replaced(deck, " (4) DEL", " (4)"), "  0  (5)", "  (5)")),
-        ElementsAre("card (4), data set 1: the label is short, which marks the old format: card (5) has no "
-                    "NUNIT"));
-    EXPECT_THAT(
-        layeredRemarks(replaced(replaced(deck, "(29) RELAX", "(29)"), " 135   120 ", " .084   .07 ")),
         ElementsAre(
-            "card (29), data set 1: the label is short, so that GAM is taken per cubic inch and multiplied "
-            "by 1728"));
+            "line 4: card (4), data set 1: the label is short, which marks the old format: card (5) has no "
+            "NUNIT"));
+    EXPECT_THAT(layeredRemarks(replaced(replaced(deck, "(29) RELAX", "(29)"), " 135   120 ", " .084   .07 ")),
+                ElementsAre("line 19: card (29), data set 1: the label is short, so that GAM is taken per "
+                            "cubic inch and multiplied "
+                            "by 1728"));
 }
 
 TEST(DeckRemarks, StandBesideAFailure) {

@@ -99,7 +99,7 @@ plate::Solution solveDataSet(const SlabSet& set, int n, const plate::Problem& pr
 void solveDeck(const SlabSolver& solver, const ResultFiles& files, const SolverCommand& command) {
     const auto store = std::make_unique<Store>();
     const DeckReadResult read = readSlabDeck(files.deck, *store);
-    requireSound(read, checkSlabDeck(*store), "slab");
+    requireSound(read, checkSlabDeck(*store, read.where), "slabs");
     auto all = problems(*store, solver);
 
     Output out;

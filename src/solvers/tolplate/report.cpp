@@ -148,7 +148,7 @@ void writeJoints(std::ostream& out, const SlabSet& set, const plate::Case& c, co
 
 void writeHeading(std::ostream& out, const std::string& program, const std::string& deck, int dataSets) {
     line(out, program + " " TOLMARK_VERSION ": concrete slabs on a foundation");
-    line(out, "Deck: " + deck);
+    line(out, "Data file: " + deck);
     line(out, printed("Data sets: %d", dataSets));
     line(out,
          "Thin plates in rectangular elements. Downward deflection and force are positive, reactions in");

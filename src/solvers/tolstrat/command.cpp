@@ -119,7 +119,7 @@ bool isStationaryViscous(const LayeredSet& set) { return set.MATL >= 3 && set.DU
 void solveDeck(const ResultFiles& files, const SolverCommand& command, const Options& options) {
     Store store;
     const DeckReadResult read = readLayeredDeck(files.deck, store);
-    requireSound(read, checkLayeredDeck(store), "layered");
+    requireSound(read, checkLayeredDeck(store, read.where), "layered systems");
 
     bool timed = false;
     for (int n = 1; n <= store.NPROB; ++n) timed = timed || isStationaryViscous(store.layered[n]);

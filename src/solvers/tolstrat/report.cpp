@@ -96,7 +96,7 @@ void eachResponse(const GroupResult& group, auto write) {
 
 void writeHeading(std::ostream& out, const std::string& deck, int dataSets) {
     line(out, "TOLSTRAT " TOLMARK_VERSION ": stresses, strains and displacements of layered pavements");
-    line(out, "Deck: " + deck);
+    line(out, "Data file: " + deck);
     line(out, printed("Data sets: %d", dataSets));
     line(out, "Elastic layers, last one infinite; circular uniform vertical loads, superposed.");
     line(out, "Compression and downward displacement are positive; shear strains are tensor components.");

@@ -162,6 +162,14 @@ TEST(Tolstrat, RefusesBadDecksInOneSentence) {
         EXPECT_THAT(refusal(withCard(example("BED1.DAT"), label, values)), HasSubstr(expected));
 }
 
+TEST(Tolstrat, JudgesOnlyWhatWasRead) {
+    // Behind the place where reading stopped all fields are 0, and so are the lists that allow an E of 0.
+    EXPECT_THAT(refusal(withCard(example("BED5.DAT"), " (17) RC", " 0   5.S ")),
+                HasSubstr("RC(1, 2), card (17), data set 1: \"5.S\" is no number"));
+    EXPECT_THAT(refusal(withCard(example("BED6.DAT"), " (36) DUR", " .O1 ")),
+                HasSubstr("DUR, card (36), data set 1: \".O1\" is no number"));
+}
+
 TEST(Tolstrat, RefusesWhatIsNoDeck) {
     const std::string whole = example("BED1.DAT");
     for (const std::string& text :
