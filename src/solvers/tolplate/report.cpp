@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numeric>
+#include <set>
 
 #include "plots/pan_file.h"
 #include "solvers/report_lines.h"
@@ -165,6 +166,17 @@ std::vector<std::string> dataWarnings(const SlabSet& set) {
         if (set.LAYER[k].GAMA == 0)
             sentences.push_back(
                 printed("NWT is 1, but GAMA of slab layer %d is 0: this layer has no weight.", k));
+    const auto repeated = [&](const char* name, const Variant& entries, auto node) {
+        std::set<double> seen;
+        for (int i = 1; i <= static_cast<int>(entries.number()); ++i)
+            if (const double n = Variant(node(i)).number(); !seen.insert(n).second)
+                sentences.push_back(
+                    printed("Node %d stands twice in %s; the last entry counts.", static_cast<int>(n), name));
+    };
+    repeated("NT1", set.NAT1, [&](int i) { return set.THICK1[i].NT; });
+    repeated("NT2", set.NAT2, [&](int i) { return set.THICK2[i].NT; });
+    repeated("NG", set.NGAP, [&](int i) { return set.GAP[i].NG; });
+    if (set.NFOUND == 0) repeated("NS", set.NAS, [&](int i) { return set.SUBGRADE[i].NS; });
     const auto twice = [&](const char* flag, const char* what) {
         sentences.push_back(
             printed("%s is 1 with INPUT = 1: %s acts once more, on top of that of the data set "

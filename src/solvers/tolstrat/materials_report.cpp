@@ -117,6 +117,11 @@ void writeViscousEcho(std::ostream& out, const LayeredSet& set, const Viscoelast
         row(
             out, std::string("  Compliances CREEP, per ") + units.stress, 1, times,
             [&](int t) { return set.CREEP[n][t]; }, 4);
+        for (int t = 2; t <= times; ++t)
+            if (set.CREEP[n][t] < set.CREEP[n][t - 1])
+                line(out, printed("    *** Warning: CREEP(%d, %d) is smaller than the compliance before it, "
+                                  "as if the material stiffened under load. ***",
+                                  n, t));
         if (!creep.needsSeries()) {
             line(out, "    The load stays and all temperatures are TEMPREF: the moduli are 1/CREEP.");
             continue;
@@ -124,6 +129,34 @@ void writeViscousEcho(std::ostream& out, const LayeredSet& set, const Viscoelast
         writeSeries(out, layer);
         writeShifts(out, set, creep, layer);
     }
+}
+
+/// What decided a modulus in place of the stresses; empty when they did.
+std::string limitText(const NonlinearLayer& layer, ModulusLimit limit, const Units& units) {
+    const auto bounded = [&](const char* by) {
+        return printed("Layer %d: the modulus is bounded by %s.", layer.layer, by);
+    };
+    switch (limit) {
+        case ModulusLimit::None:
+            break;
+        case ModulusLimit::PHI:
+            return bounded("PHI");
+        case ModulusLimit::EMIN:
+            return bounded("EMIN");
+        case ModulusLimit::EMAX:
+            return bounded("EMAX");
+        case ModulusLimit::LeastTheta:
+            return printed(
+                "*** Warning: layer %d: the sum of the principal stresses is below %g %s and "
+                "counts as that. ***",
+                layer.layer, std::get<GranularLaw>(layer.law).leastTheta, units.stress);
+        case ModulusLimit::LeastK1:
+            return printed(
+                "*** Warning: layer %d: the deviator stress would leave less than 1 %% of K1, "
+                "which is the least modulus. ***",
+                layer.layer);
+    }
+    return "";
 }
 
 void writeIterations(std::ostream& out, const GroupResult& result, const Units& units) {
@@ -143,18 +176,9 @@ void writeIterations(std::ostream& out, const GroupResult& result, const Units& 
         line(out, printed("*** Warning: ITENOL = %d iterations were reached and the moduli still changed by "
                           "%.3g, more than DELNOL. Raise ITENOL or lower RELAX. ***",
                           way.count(), way.changes.back()));
-    for (std::size_t n = 0; n < result.nonlinear.size(); ++n) {
-        const NonlinearLayer& l = result.nonlinear[n];
-        if (!way.limited[n]) continue;
-        if (const auto* granular = std::get_if<GranularLaw>(&l.law))
-            line(out, printed("*** Warning: layer %d: the sum of the principal stresses is below %g %s and "
-                              "counts as that. ***",
-                              l.layer, granular->leastTheta, units.stress));
-        else
-            line(out, printed("*** Warning: layer %d: the deviator stress would leave less than 1 %% of K1, "
-                              "which is the least modulus. ***",
-                              l.layer));
-    }
+    for (std::size_t n = 0; n < result.nonlinear.size(); ++n)
+        if (const std::string limit = limitText(result.nonlinear[n], way.limits[n], units); !limit.empty())
+            line(out, limit);
 }
 
 }  // namespace

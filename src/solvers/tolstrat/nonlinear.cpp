@@ -45,16 +45,19 @@ LawModulus GranularLaw::modulus(const std::array<double, 3>& s) const {
         theta = s[0] + std::max(s[1], least) + std::max(s[2], least);
     }
     const double E = K1 * std::pow(std::max(theta, leastTheta), K2);
-    return {PHI > 90 ? std::max(PHI, E) : E, theta < leastTheta};
+    const bool least = PHI > 90 && PHI > E;
+    return {least ? PHI : E, theta < leastTheta ? ModulusLimit::LeastTheta
+                             : least            ? ModulusLimit::PHI
+                                                : ModulusLimit::None};
 }
 
 LawModulus ClayLaw::modulus(const std::array<double, 3>& s) const {
     const double deviator = s[0] - (s[1] + s[2]) / 2;
-    double E = K1 + (deviator < K2 ? K3 : K4) * (K2 - deviator);
-    E = std::max(E, EMIN);
-    if (EMAX != 0) E = std::min(E, EMAX);
+    LawModulus E{K1 + (deviator < K2 ? K3 : K4) * (K2 - deviator), ModulusLimit::None};
+    if (E.modulus < EMIN) E = {EMIN, ModulusLimit::EMIN};
+    if (EMAX != 0 && E.modulus > EMAX) E = {EMAX, ModulusLimit::EMAX};
     const double least = LEAST_CLAY_PART * K1;
-    return {std::max(E, least), E < least};
+    return E.modulus < least ? LawModulus{least, ModulusLimit::LeastK1} : E;
 }
 
 LawModulus NonlinearLayer::modulus(layered_theory::Tensor stress) const {
@@ -106,17 +109,17 @@ std::vector<double> startModuli(const LayeredSet& set, int period,
 Iterations iterateModuli(const std::vector<NonlinearLayer>& layers, std::vector<double> start,
                          const IterationControl& control, const StressesOf& stressesOf) {
     Iterations way;
-    way.limited.resize(layers.size());
+    way.limits.resize(layers.size());
     way.moduli.push_back(std::move(start));
     do {
         std::vector<double> moduli = way.moduli.back();
         const auto stresses = stressesOf(moduli);
         double largest = 0;
         for (std::size_t n = 0; n < layers.size(); ++n) {
-            const auto [target, limited] = layers[n].modulus(stresses[n]);
+            const auto [target, limit] = layers[n].modulus(stresses[n]);
             largest = std::max(largest, std::abs(target - moduli[n]) / moduli[n]);
             moduli[n] += control.relax * (target - moduli[n]);
-            way.limited[n] = limited;
+            way.limits[n] = limit;
         }
         way.changes.push_back(largest);
         way.moduli.push_back(std::move(moduli));

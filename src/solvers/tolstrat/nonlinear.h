@@ -14,10 +14,13 @@
 #include "layered/layered_set.h"
 #include "solvers/layered_theory/layered_theory.h"
 
-/// A modulus, and whether one of the lower limits took the place of what the stresses give.
+/// What took the place of the modulus that the stresses give. PHI, EMIN and EMAX are the user's; the least
+/// sum of stresses and the least part of K1 keep a modulus above 0.
+enum class ModulusLimit { None, PHI, EMIN, EMAX, LeastTheta, LeastK1 };
+
 struct LawModulus {
     double modulus;
-    bool limited;
+    ModulusLimit limit;
 };
 
 /// Stresses and K1 in one unit.
@@ -68,8 +71,8 @@ struct IterationControl {
 /// The way of the moduli, [iteration][nonlinear layer]: first those of the start, last those of the results.
 struct Iterations {
     std::vector<std::vector<double>> moduli;
-    std::vector<double> changes;  ///< of each iteration: largest |E of the law - E| / E before its step
-    std::vector<bool> limited;    ///< whether a lower limit held in the last iteration, by nonlinear layer
+    std::vector<double> changes;       ///< of each iteration: largest |E of the law - E| / E before its step
+    std::vector<ModulusLimit> limits;  ///< that held in the last iteration, by nonlinear layer
     bool converged = true;
 
     int count() const { return static_cast<int>(changes.size()); }

@@ -45,6 +45,12 @@ void writeLoadEcho(std::ostream& out, const LayeredSet& set, int group, const Un
     }
     item(out, "Dual spacing YW along y", load.YW.number(), units.length);
     if (kind > 1) item(out, "Axle spacing XW along x", load.XW.number(), units.length);
+    const double wheel = 2 * load.CR.number(), YW = load.YW.number();
+    if ((YW > 0 && YW < wheel) || (kind > 1 && load.XW.number() < wheel))
+        line(out,
+             "  *** Warning: loaded areas overlap, and their pressures are added; are CR and CP, or XW and "
+             "YW, "
+             "exchanged? ***");
     row(out, std::string("Points XPT, ") + units.length, 1, points,
         [&](int j) { return set.PT[group][j].XPT.number(); });
     row(out, std::string("       YPT, ") + units.length, 1, points,

@@ -208,6 +208,9 @@ TEST(Tolplate, TellsWhatPassedItsBounds) {
     EXPECT_THAT(solveSlabs(*store).text, Not(HasSubstr("***")));
     s.LAYER[1].GAMA = 0;
     EXPECT_THAT(solveSlabs(*store).text, HasSubstr("*** NWT is 1, but GAMA of slab layer 1 is 0"));
+    s.NAS = 2.0;
+    s.SUBGRADE[1] = s.SUBGRADE[2] = {3.0, 100.0};
+    EXPECT_THAT(solveSlabs(*store).text, HasSubstr("*** Node 3 stands twice in NS"));
     store->slab[2] = s;
     store->SlabNPROB = 2.0;
     store->slab[2].INPUT = 1.0;

@@ -13,19 +13,23 @@ TEST(Nonlinear, GranularLawLimitsTheLesserStresses) {
         double PHI;
         Principal s;
         double modulus;
-        bool limited;
+        ModulusLimit limit = ModulusLimit::None;
     };
     const Case cases[] = {
-        {0, {30, 5, -10}, 3500, false},     {90, {30, 5, -10}, 3500, false},
-        {30, {30, 5, -10}, 5000, false},    {30, {30, 20, 15}, 6500, false},
-        {91, {30, 5, -10}, 2500, false},    {3000, {30, 5, -10}, 3000, false},
-        {2000, {30, 5, -10}, 2500, false},  {0, {-5, -6, -7}, 10, true},
-        {4000, {30, -20, -30}, 4000, true},
+        {0, {30, 5, -10}, 3500},
+        {90, {30, 5, -10}, 3500},
+        {30, {30, 5, -10}, 5000},
+        {30, {30, 20, 15}, 6500},
+        {91, {30, 5, -10}, 2500},
+        {3000, {30, 5, -10}, 3000, ModulusLimit::PHI},
+        {2000, {30, 5, -10}, 2500},
+        {0, {-5, -6, -7}, 10, ModulusLimit::LeastTheta},
+        {4000, {30, -20, -30}, 4000, ModulusLimit::LeastTheta},
     };
     for (const Case& c : cases) {
-        const auto [modulus, limited] = GranularLaw{100, 1, c.PHI, .1}.modulus(c.s);
+        const auto [modulus, limit] = GranularLaw{100, 1, c.PHI, .1}.modulus(c.s);
         EXPECT_NEAR(modulus, c.modulus, 1e-9 * c.modulus) << "PHI " << c.PHI;
-        EXPECT_EQ(limited, c.limited) << "PHI " << c.PHI;
+        EXPECT_EQ(limit, c.limit) << "PHI " << c.PHI;
     }
 }
 
@@ -34,17 +38,20 @@ TEST(Nonlinear, ClayLawBreaksAndEnds) {
         double K4, EMIN, EMAX;
         Principal s;
         double modulus;
-        bool limited;
+        ModulusLimit limit = ModulusLimit::None;
     };
     const Case cases[] = {
-        {200, 0, 0, {4, 1, 1}, 10000, false}, {200, 0, 9000, {4, 1, 1}, 9000, false},
-        {200, 0, 0, {12, 2, 0}, 6000, false}, {200, 6500, 9000, {12, 2, 0}, 6500, false},
-        {2000, 0, 0, {12, 2, 0}, 70, true},   {2000, 80, 0, {12, 2, 0}, 80, false},
+        {200, 0, 0, {4, 1, 1}, 10000},
+        {200, 0, 9000, {4, 1, 1}, 9000, ModulusLimit::EMAX},
+        {200, 0, 0, {12, 2, 0}, 6000},
+        {200, 6500, 9000, {12, 2, 0}, 6500, ModulusLimit::EMIN},
+        {2000, 0, 0, {12, 2, 0}, 70, ModulusLimit::LeastK1},
+        {2000, 80, 0, {12, 2, 0}, 80, ModulusLimit::EMIN},
     };
     for (const Case& c : cases) {
-        const auto [modulus, limited] = ClayLaw{7000, 6, 1000, c.K4, c.EMIN, c.EMAX}.modulus(c.s);
+        const auto [modulus, limit] = ClayLaw{7000, 6, 1000, c.K4, c.EMIN, c.EMAX}.modulus(c.s);
         EXPECT_NEAR(modulus, c.modulus, 1e-9 * c.modulus);
-        EXPECT_EQ(limited, c.limited);
+        EXPECT_EQ(limit, c.limit);
     }
 }
 

@@ -200,6 +200,14 @@ TEST(Tolstrat, TablesTakeNoOtherPlaceAndDoNotOutliveTheirRun) {
     EXPECT_EQ(folder.read("road.csv"), "");
 }
 
+TEST(Tolstrat, WarnsOfLoadedAreasThatOverlap) {
+    const TemporaryDirectory folder;
+    for (const auto& [values, warns] : {std::pair(" 6.75   80 ", false), {" 6.8   80 ", true}}) {
+        solveToCsv(folder, withCard(example("BED1.DAT"), " (14) CR CP", values));
+        EXPECT_EQ(folder.read("a road.TXT").find("loaded areas overlap") != std::string::npos, warns);
+    }
+}
+
 TEST(Tolstrat, TellsWhatItPassedOver) {
     const TemporaryDirectory folder;
     const std::string deck = withCard(example("BED1.DAT"), " (6) TH", " 6   8   10 ");
