@@ -93,19 +93,15 @@ TEST_F(Copying, ReachesAsFarAsTheCountsOfTheFirstSet) {
     EXPECT_EQ(store.layered[2].TITLE, "");
 }
 
-TEST_F(Copying, EndsInSilenceWhereACountIsNoNumber) {
+TEST_F(Copying, EndsInSilenceWhereACountIsNoNumberOrBeyondTheStore) {
     first.LOADL[1].NR = "";
     Initial(store, 3);
     EXPECT_TRUE(third.LOADL[1].NR.isEmptyText());
     EXPECT_EQ(texts({third.EMOD[1][1], third.LOADL[2].CR, third.DAMBT[1].FT1, third.VISLAY[1].BETA}),
               "7 0 0 0");
-}
-
-/// Seasonal parameters of period 13 come before the layers.
-TEST_F(Copying, EndsInSilenceAtTheBoundOfTheStore) {
-    first.NPY = 13;
-    Initial(store, 3);
-    EXPECT_EQ(texts({third.NPY, third.ZC[4], third.LAYER[1].TH}), "13 7 0");
+    first.NPY = 13;  // seasonal parameters come before the layers
+    Initial(store, 4);
+    EXPECT_EQ(texts({store.layered[4].NPY, store.layered[4].ZC[4], store.layered[4].LAYER[1].TH}), "13 7 0");
 }
 
 TEST(MissingData, AnEmptyTextCountsAsZeroAndOnlyTheFirstSetIsLookedAt) {
@@ -119,35 +115,34 @@ TEST(MissingData, AnEmptyTextCountsAsZeroAndOnlyTheFirstSetIsLookedAt) {
     set.KPER[1][1][2] = 10000;
     EXPECT_EQ(ErrCheck1(store), std::nullopt);
     // Each comes before the one that is missing already.
-    set.KPER[1][1][2] = "";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("Seasonal\\Layer No."));
-    set.NOLLAY[1].LAYNO = "0";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("Nonseasonal Information"));
-    set.LAYER[1].TH = "";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("layer thickness"));
-}
-
-std::string asking(const StatusRules& rules, const LayeredSet& set) {
-    std::string labels;
-    for (const auto& rule : rules) {
-        if (rule.needsInput(set)) labels += std::string(rule.label).substr(3) + " ";
+    const std::pair<Variant*, const char*> values[] = {{&set.KPER[1][1][2], "Seasonal\\Layer No."},
+                                                       {&set.NOLLAY[1].LAYNO, "Nonseasonal Information"},
+                                                       {&set.LAYER[1].TH, "layer thickness"}};
+    for (const auto& [value, menu] : values) {
+        *value = "";
+        EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr(menu));
     }
-    return labels;
 }
 
 TEST(StatusWords, DifferOnlyInWhatAsksForDepths) {
     LayeredSet set;
     setNewFileDefaults(set);
-    EXPECT_EQ(asking(colorCodeRules, set), "Zcoord ");
-    EXPECT_EQ(asking(generalRules, set), "");
+    const auto asking = [&](const StatusRules& rules) {
+        std::string labels;
+        for (const auto& rule : rules)
+            if (rule.needsInput(set)) labels += std::string(rule.label).substr(3) + " ";
+        return labels;
+    };
+    EXPECT_EQ(asking(colorCodeRules), "Zcoord ");
+    EXPECT_EQ(asking(generalRules), "");
     set.NDAMA = 1;
     set.NZ = 5;
     set.NBOND = 2;  // opens the interface table, and yet asks for nothing
-    EXPECT_EQ(asking(colorCodeRules, set), "Damage ");
-    EXPECT_EQ(asking(generalRules, set), "Zcoord Damage ");
+    EXPECT_EQ(asking(colorCodeRules), "Damage ");
+    EXPECT_EQ(asking(generalRules), "Zcoord Damage ");
     set.MATL = 4;
     set.NBOND = 0;
-    EXPECT_EQ(asking(generalRules, set), "Nonlinear Viscoelastic Zcoord Interface Damage ");
+    EXPECT_EQ(asking(generalRules), "Nonlinear Viscoelastic Zcoord Interface Damage ");
 }
 
 }  // namespace
