@@ -10,6 +10,8 @@
 
 namespace {
 
+using testing::ElementsAre;
+
 class Bedform : public LayeredScreens {
   protected:
     Bedform() {
@@ -121,8 +123,7 @@ TEST_F(Bedform, MenusOpenTheirTablesFromTheFirstLineOn) {
     click(*menu, "lblInterface");
     EXPECT_EQ(store.TableKind, 105);
     EXPECT_EQ(store.TblLines, 2) << "between three layers";
-    store.CurGroup = 3;
-    store.CurTopRow = 20;
+    store.CurGroup = store.CurTopRow = 20;
     click(*menu, "lblLoad1");
     EXPECT_EQ(store.CurTopRow, 1);
     EXPECT_EQ(store.CurGroup, 0);
@@ -139,18 +140,15 @@ TEST_F(Bedform, NewSetsDefaultsAndLeavesButtonsAndDoneWords) {
     EXPECT_EQ(store.CurrentFile, "UNTITLED.DAT");
     EXPECT_EQ(captions({"lblFile", "lblLayer", "lblDamage"}), "Untitled|done|default");
     EXPECT_TRUE(menu->control<OptionButton>("optDataSet2").value());
-    EXPECT_EQ(store.CurLayDS, 1);
-    EXPECT_EQ(store.NPROB, 1);
-    EXPECT_EQ(store.NewFile, 1);
-    EXPECT_EQ(store.GeneralVisits, 0);
+    EXPECT_THAT((std::vector<int>{store.CurLayDS, store.NPROB, store.NewFile, store.GeneralVisits}),
+                ElementsAre(1, 1, 1, 0));
     EXPECT_EQ(store.layered[5].ICL, 80);
 }
 
 TEST_F(Bedform, ADataSetIsMadeOnceAsACopyOfTheFirst) {
     newRoad();
     click(*menu, "optDataSet3");
-    EXPECT_EQ(store.NPROB, 3);
-    EXPECT_EQ(store.CurLayDS, 3);
+    EXPECT_THAT((std::vector<int>{store.NPROB, store.CurLayDS}), ElementsAre(3, 3));
     EXPECT_EQ(store.layered[3].LAYER[2].TH, Variant(8));
     EXPECT_EQ(store.layered[2].TITLE, "") << "skipped, and in the deck all the same";
     EXPECT_EQ(captions({"Label2", "Label3"}), "No|Yes");

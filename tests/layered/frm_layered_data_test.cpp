@@ -124,11 +124,8 @@ TEST_F(LayeredData, TooManyLayersAreRefusedWithWhatCameBeforeThemStored) {
         EXPECT_EQ(screens.loaded(c.form), &form);
         form.close();
     }
-    EXPECT_EQ(set.NOLAY, Variant(13));
-    EXPECT_EQ(set.NVL, Variant(13));
-    EXPECT_EQ(set.DUR, Variant(7));
-    EXPECT_EQ(set.ITENOL, Variant(15));
-    EXPECT_EQ(set.NTYME, Variant(11));
+    EXPECT_THAT((std::vector{set.NOLAY, set.NVL, set.DUR}), testing::ElementsAre(13, 13, 7));
+    EXPECT_THAT((std::vector{set.ITENOL, set.NTYME}), testing::ElementsAre(15, 11)) << "defaults";
     EXPECT_EQ(word("frmVisco", "lblGeneral"), "input");
 }
 

@@ -56,6 +56,7 @@ TEST(LayeredCheck, NamesFieldCardAndDemand) {
     const auto good = threeLayerStore();
     LayeredSet& s = good->layered[1];
     s.NBOND = 0;
+    s.LAYER[2].PR = .5;  // incompressible, and allowed
     s.NLG = 2;
     s.LOADL[2] = {2, 4.5F, 100.0F, 13.5F, 48.0F, 0};
     expectFaults(*good,
