@@ -149,6 +149,8 @@ TEST(LayeredDeck, OldFormatDiffersInThreePlaces) {
     EXPECT_THAT(deckOf(read), HasSubstr(" 146   136   122   (30) GAM\r\n"));
     EXPECT_THAT(readText(replaced(old, ".0845 ", "146 "), read).sentence(),
                 HasSubstr("GAM(1), card (30), data set 1: 146 per cubic inch is out of range"));
+    EXPECT_EQ(readText(replaced(example("BED2.DAT"), ") DEL", ")"), read).sentence(), "")
+        << "unit weights go by the label of card (29)";
 }
 
 TEST(LayeredDeck, RemarksTellWhatWasPassedOver) {

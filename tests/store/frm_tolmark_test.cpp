@@ -45,7 +45,7 @@ class MainScreen : public ::testing::Test {
         for (int i = 0; i < box.listCount(); ++i) texts.push_back(box.listText(i));
         return texts;
     }
-    std::string folder() const { return machine.path().substr(0, machine.path().size() - 1); }
+    static std::string withoutSlash(const std::string& path) { return path.substr(0, path.size() - 1); }
     void writeHistory(const Lines& lines) const {
         std::string text;
         for (const std::string& line : lines) text += line + "\r\n";
@@ -55,7 +55,7 @@ class MainScreen : public ::testing::Test {
     TemporaryDirectory machine, data;  ///< the program's folder, and one for decks
     ScriptedDialogs dialogs;
     RecordingPrinter printer;
-    QuietDesktop desktop{folder()};
+    QuietDesktop desktop{withoutSlash(machine.path())};
     Store store;
     Screens screens{dialogs};
     Program program{store, screens, dialogs, printer, desktop};
@@ -108,7 +108,7 @@ TEST_F(MainScreen, TypingADirectoryFollowsAtEveryKey) {
     data.write("one.dat", "");
     start();
     file().setTextValue("mine.dat");
-    const std::string bare = data.path().substr(0, data.path().size() - 1);
+    const std::string bare = withoutSlash(data.path());
     type(path(), bare);
     EXPECT_EQ(file().textValue(), "");
     EXPECT_THAT(list(file()), Not(Contains("one.dat"))) << "of the directory above";
@@ -116,14 +116,12 @@ TEST_F(MainScreen, TypingADirectoryFollowsAtEveryKey) {
     QTest::keyClicks(path().lineEdit(), "/");
     EXPECT_THAT(list(file()), ElementsAre("one.dat"));
     EXPECT_EQ(file().textValue(), "one.dat");
-    EXPECT_EQ(desktop.made.size(),
-              data.path().size() + 1);  // the program's folder at the start, then each key
+    EXPECT_EQ(desktop.made.size(), data.path().size() + 1) << "at the start, then at each key";
     EXPECT_EQ(desktop.made.back(), data.path());
 }
 
 TEST_F(MainScreen, AChoiceFromTheHistoryOpensTheDirectory) {
     data.write("one.dat", "");
-    machine.write("two.dat", "");
     writeHistory({machine.path(), data.path()});
     start();
     path().showPopup();
@@ -212,17 +210,6 @@ TEST_F(MainScreen, APlotScreenGetsTheFullNameAndIsGoneAfterwards) {
     EXPECT_THAT(list(path()), ElementsAre(machine.path()));
 }
 
-TEST_F(MainScreen, ScreensThatAreNotThereAreToldAndNothingElse) {
-    start();
-    store.TableKind = 107;
-    dialogs.expectBox("This screen is not there yet.");
-    click("cmdEdit");
-    EXPECT_EQ(store.TableKind, 107);
-    dialogs.expectBox("This screen is not there yet.");
-    click("cmdHelp");
-    EXPECT_EQ(store.TableKind, 1);
-}
-
 TEST_F(MainScreen, ASolverGetsThePathWithoutExtensionAsOneArgument) {
     const struct {
         const char* button;
@@ -255,7 +242,7 @@ TEST_F(MainScreen, TheFilenameHintChangesTheLineBreakForGood) {
 
 TEST_F(MainScreen, ExitEndsTheProgramEvenWhereTheHistoryCannotBeWritten) {
     start();
-    std::filesystem::remove_all(folder());
+    std::filesystem::remove_all(machine.path());
     dialogs.expectBox("Path not found: " + machine.path() + "DataPath");
     click("cmdExit");
     EXPECT_EQ(exits, 1);
