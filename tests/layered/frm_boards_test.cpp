@@ -5,104 +5,87 @@
 
 namespace {
 
+using testing::ElementsAre;
+
 class Boards : public LayeredScreens {
   protected:
     Boards() {
         store.CurLayDS = 2;
-        store.CurSlabDS = 1;
         set.NPY = 3;
         set.NL = 4;
         set.NLG = 5;
-        set.NOLAY = 2;
-        set.NVL = 2;
+        set.NOLAY = set.NVL = 2;
         set.NTYME = 11;
-        set.NOLLAY[1] = {.LAYNO = 4, .ZCNOL = 0, .NCLAY = 0};
-        set.NOLLAY[2] = {.LAYNO = "12", .ZCNOL = 0, .NCLAY = "1"};
+        set.NOLLAY[1] = {4, 0, 0};
+        set.NOLLAY[2] = {"12", 0, "1"};
         set.VISLAY[2].LNV = 3;
-        store.slab[1].NPY = 2;
-        store.slab[1].NLG = 7;
     }
     Form& board(int TableKind, const std::string& name) {
         store.TableKind = TableKind;
         screens.load(name);
         return *screens.loaded(name);
     }
-    /// Another screen has used the shared selectors meanwhile.
-    void disturb() {
-        store.TableKind = 1;
-        store.CurLayDS = store.CurSlabDS = 0;
-        store.TblLines = store.GridCols = 0;
-    }
     LayeredSet& set = store.layered[2];
 };
 
-const struct {
-    int TableKind;
-    const char* form;
-    int live;
-    const char* word;
-    int lines, cols;
-} boardCases[] = {
-    {106, "frmPeriod", 3, "input", 4, 2}, {119, "frmPeriod", 3, "default", 2, 2},
-    {123, "frmPeriod", 3, "input", 5, 2}, {225, "frmPeriod", 2, "input", 7, 2},
-    {118, "frmLayer", 2, "input", 11, 2}, {112, "frmLayer", 2, "input", 3, 3},
-};
-
 TEST_F(Boards, ServeTheirKindsByWhatTheyKnewAtTheirLoad) {
-    for (const auto& c : boardCases) {
-        SCOPED_TRACE(c.TableKind);
-        const std::string thing = std::string(c.form).substr(3);
+    const struct {
+        int TableKind;
+        const char* thing;
+        const char* words;  ///< first letters of "input" and "default"
+        int lines;
+    } cases[] = {{106, "Period", "iii", 4},
+                 {119, "Period", "ddd", 2},
+                 {123, "Period", "iii", 5},
+                 {118, "Layer", "ii", 11}};
+    for (const auto& c : cases) {
         store.CurLayDS = 2;
-        store.CurSlabDS = 1;
-        Form& form = board(c.TableKind, c.form);
+        const std::string thing = c.thing;
+        Form& form = board(c.TableKind, "frm" + thing);
+        std::string words;
         for (int n = 1; n <= 12; ++n) {
             const std::string number = std::to_string(n);
-            EXPECT_EQ(form.control<Label>("lbl" + thing + number).caption(), n <= c.live ? c.word : "") << n;
-            EXPECT_EQ(form.control<Button>("cmd" + thing + number).caption().empty(), n > c.live) << n;
+            const std::string word = form.control<Label>("lbl" + thing + number).caption();
+            EXPECT_EQ(form.control<Button>("cmd" + thing + number).caption().empty(), word.empty());
+            words += word.substr(0, 1);
         }
-        disturb();
-        const int last = c.TableKind == 112 ? 1 : c.live;  // the second layer is a clay
-        click(form, "cmd" + thing + std::to_string(last));
-        EXPECT_EQ(store.TableKind, c.TableKind);
-        EXPECT_EQ(store.TblLines, c.lines);
-        EXPECT_EQ(store.GridCols, c.cols);
-        EXPECT_EQ(c.TableKind == 225 ? store.CurSlabDS : store.CurLayDS, c.TableKind == 225 ? 1 : 2);
-        EXPECT_EQ(thing == "Period" ? store.CurPeriod : store.CurLayer, last);
-        EXPECT_NE(screens.loaded("frmspreadb"), nullptr);
-        screens.unload("frmspreadb");
-        click(form, "cmdOk");
-        EXPECT_EQ(screens.loaded(c.form), nullptr);
+        EXPECT_EQ(words, c.words) << c.TableKind;
+        // Another screen uses the shared selectors meanwhile.
+        store.TableKind = store.CurLayDS = 1;
+        store.TblLines = store.GridCols = 0;
+        click(form, "cmd" + thing + "2");
+        EXPECT_THAT((std::vector<int>{store.TableKind, store.CurLayDS, store.TblLines, store.GridCols}),
+                    ElementsAre(c.TableKind, 2, c.lines, 2));
     }
 }
 
 TEST_F(Boards, CaptionsTellPeriodsAndLayers) {
     set.NPY = 13;  // a refused count may still be in the store
-    Form& periods = board(106, "frmPeriod");
-    EXPECT_EQ(periods.control<Button>("cmdPeriod1").caption(), "Period&1");
-    EXPECT_EQ(periods.control<Button>("cmdPeriod12").caption(), "Perio&d12");
-    Form& layers = board(112, "frmLayer");
-    EXPECT_EQ(layers.control<Button>("cmdLayer1").caption(), "&1  Layer 4");
-    EXPECT_EQ(layers.control<Button>("cmdLayer2").caption(), "&2  Layer 12");
-    EXPECT_EQ(board(118, "frmLayer").control<Button>("cmdLayer2").caption(), "&2  Layer 3");
-}
-
-TEST_F(Boards, ALineInsertedInOneTableIsThereInTheNext) {
-    Form& form = board(106, "frmPeriod");
-    set.NL = 5;  // stored by the table of a period
-    click(form, "cmdPeriod2");
-    EXPECT_EQ(store.TblLines, 5);
+    const auto captions = [&](int TableKind, const std::string& thing, int last) {
+        Form& form = board(TableKind, "frm" + thing);
+        return form.control<Button>("cmd" + thing + "1").caption() + "|" +
+               form.control<Button>("cmd" + thing + std::to_string(last)).caption();
+    };
+    EXPECT_EQ(captions(106, "Period", 12), "Period&1|Perio&d12");
+    EXPECT_EQ(captions(112, "Layer", 2), "&1  Layer 4|&2  Layer 12");
+    EXPECT_EQ(captions(118, "Layer", 2), "&1  Layer 0|&2  Layer 3");
 }
 
 TEST_F(Boards, ANewVisitForgetsTheWordsAndMayBeForAnotherKind) {
-    board(106, "frmPeriod").control<StatusLabel>("lblPeriod1").done();
-    EXPECT_EQ(board(106, "frmPeriod").control<Label>("lblPeriod1").caption(), "input");
-    EXPECT_EQ(board(119, "frmPeriod").control<Label>("lblPeriod1").caption(), "default");
+    const auto word = [&](int TableKind) -> StatusLabel& {
+        return board(TableKind, "frmPeriod").control<StatusLabel>("lblPeriod1");
+    };
+    word(106).done();
+    EXPECT_EQ(word(106).caption(), "input");
+    EXPECT_EQ(word(119).caption(), "default");
 }
 
-TEST_F(Boards, SeasonalTablesDependOnTheLayerAndTheFile) {
+TEST_F(Boards, TablesFollowWhatOtherTablesHaveStored) {
     Form& form = board(112, "frmLayer");
+    set.NPY = 5;  // a line was inserted in the table of another layer
     store.NewFile = 1;
     click(form, "cmdLayer2");
+    EXPECT_EQ(store.TblLines, 5);
     EXPECT_EQ(store.GridCols, 2);
     store.NewFile = 0;  // the types of clay of an old file are known
     click(form, "cmdLayer2");

@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "layered/layered_cards.h"
 #include "support/layered_roads.h"
 
 namespace {
@@ -13,58 +14,62 @@ std::string sentenceOf(const Store& store) {
     return fault ? fault->sentence : "";
 }
 
-/// Faults of one card each; the message must begin with field, value and card.
-struct SpoiltRow {
-    void (*spoil)(LayeredSet& s);
-    const char* beginning;
+/// Sets the value of a text like "TH(2) is -8" in a data set to what the text says.
+class Spoiler : public CardWalker<LayeredSet> {
+  public:
+    Spoiler(LayeredSet& set, const std::string& text)
+        : CardWalker(set, where), text_(text), said_(text.substr(text.find(" is ") + 4)) {
+        walk(layeredCards());
+        EXPECT_TRUE(found_) << text;
+        ListReader in = ListReader::fromText(said_);
+        if (auto* const* variant = std::get_if<Variant*>(&*found_))
+            **variant = said_ == "empty" ? "" : said_;
+        else
+            readCell(in, *found_);
+    }
+    std::string sentence;  ///< its beginning, as the check should put it
+
+  private:
+    void value(const Card<LayeredSet>&, const Run<LayeredSet>&, Cell cell) override {
+        if (where_.fieldText() + " is " + said_ != text_) return;
+        found_ = cell;
+        sentence = where_.text(said_) + ", data set 1: ";
+    }
+    DeckPlace where;
+    const std::string text_, said_;
+    std::optional<Cell> found_;
 };
 
-void expectFaults(const Store& good, const std::vector<SpoiltRow>& rows) {
+/// Each of the faults, with "; " between them, alone in a deck that is good otherwise.
+void expectFaults(const Store& good, const std::string& faults) {
     EXPECT_EQ(sentenceOf(good), "");
-    for (const SpoiltRow& row : rows) {
+    for (std::size_t at = 0, end = 0; end != std::string::npos; at = end + 2) {
+        end = faults.find("; ", at);
         const auto store = std::make_unique<Store>(good);
-        row.spoil(store->layered[1]);
-        const std::string sentence = sentenceOf(*store);
-        EXPECT_TRUE(sentence.starts_with(row.beginning)) << sentence << "\n  is not " << row.beginning;
+        const Spoiler spoiler(store->layered[1], faults.substr(at, end - at));
+        EXPECT_TRUE(sentenceOf(*store).starts_with(spoiler.sentence))
+            << sentenceOf(*store) << "\n  is not " << spoiler.sentence;
     }
 }
 
 TEST(LayeredCheck, NamesFieldCardAndDemand) {
-    expectFaults(
-        *threeLayerStore(),
-        {{[](LayeredSet& s) { s.MATL = 5; }, "MATL is 5, card (3), data set 1: MATL must be 1, 2, 3 or 4"},
-         {[](LayeredSet& s) { s.NPY = 13; }, "NPY is 13, card (3)"},
-         {[](LayeredSet& s) { s.NLG = 0; }, "NLG is 0, card (3)"},
-         {[](LayeredSet& s) { s.DEL = 0; }, "DEL is 0, card (4)"},
-         {[](LayeredSet& s) { s.DEL = std::nanf(""); },
-          "DEL is not finite, card (4), data set 1: a number is needed"},
-         {[](LayeredSet& s) { s.NL = 0; }, "NL is 0, card (5)"},
-         {[](LayeredSet& s) { s.NL = 20; }, "NL is 20, card (5)"},
-         {[](LayeredSet& s) { s.NL = 2.5f; }, "NL is 2.5, card (5)"},
-         {[](LayeredSet& s) { s.NZ = 0; }, "NZ is 0, card (5)"},
-         {[](LayeredSet& s) { s.NZ = 40; }, "NZ is 40, card (5)"},
-         {[](LayeredSet& s) { s.ICL = 0; }, "ICL is 0, card (5)"},
-         {[](LayeredSet& s) { s.ICL = 1e9f; }, "ICL is 1E+09, card (5)"},
-         {[](LayeredSet& s) { s.NSTD = 3; }, "NSTD is 3, card (5)"},
-         {[](LayeredSet& s) { s.LAYER[2].TH = "-8"; }, "TH(2) is -8, card (6)"},
-         {[](LayeredSet& s) { s.LAYER[1].TH = ""; },
-          "TH(1) is empty, card (6), data set 1: a number is needed"},
-         {[](LayeredSet& s) { s.LAYER[3].PR = .51; }, "PR(3) is .51, card (7)"},
-         {[](LayeredSet& s) { s.LAYER[3].PR = -1; }, "PR(3) is -1, card (7)"},
-         {[](LayeredSet& s) { s.LAYER[1].PR = -1e300; },
-          "PR(1) is -1E+300, card (7), data set 1: the number must be below 3.4E+38"},
-         {[](LayeredSet& s) { s.ZC[2] = -.1; }, "ZC(2) is -.1, card (8)"},
-         {[](LayeredSet& s) { s.NBOND = 0, s.INTF[1] = 2; }, "INT(1) is 2, card (10)"},
-         {[](LayeredSet& s) { s.EMOD[1][2] = 0; }, "E(1, 2) is 0, card (11)"},
-         {[](LayeredSet& s) { s.EMOD[1][2] = 3e9; }, "E(1, 2) is 3000000000, card (11)"},
-         {[](LayeredSet& s) { s.LOADL[1].LOAD = 4; }, "LOAD(1) is 4, card (13)"},
-         {[](LayeredSet& s) { s.LOADL[1].CR = 0; }, "CR(1) is 0, card (14)"},
-         {[](LayeredSet& s) { s.LOADL[1].CP = -1; }, "CP(1) is -1, card (14)"},
-         {[](LayeredSet& s) { s.LOADL[1].NR = 26; }, "NR(1) is 26, card (16)"},
-         {[](LayeredSet& s) { s.RC[1][1] = 1e5; }, "RC(1, 1) is 100000, card (17)"},
-         {[](LayeredSet& s) { s.LOADL[1].LOAD = 1, s.LOADL[1].NR = -1; }, "NPT(1) is -1, card (19)"},
-         {[](LayeredSet& s) { s.LOADL[1].LOAD = 2; }, "XW(1) is 0, card (20)"},
-         {[](LayeredSet& s) { s.MATL = 2, s.NOLAY = 13; }, "NOLAY is 13, card (25)"}});
+    const auto good = threeLayerStore();
+    LayeredSet& s = good->layered[1];
+    s.NBOND = 0;
+    s.LAYER[2].PR = .5;  // incompressible, and allowed
+    s.NLG = 2;
+    s.LOADL[2] = {2, 4.5F, 100.0F, 13.5F, 48.0F, 0};
+    expectFaults(*good,
+                 "MATL is 5; NPY is 13; NLG is 0; DEL is 0; NL is 0; NL is 20; NL is 2.5; NZ is 0; NZ is 40; "
+                 "ICL is 0; ICL is 1E+09; NSTD is 3; TH(2) is -8; TH(1) is empty; PR(3) is .51; PR(3) is -1; "
+                 "ZC(2) is -.1; INT(1) is 2; E(1, 2) is 0; E(1, 2) is 3000000000; LOAD(1) is 4; CR(1) is 0; "
+                 "CP(1) is -1; NR(1) is 26; RC(1, 1) is 100000; NPT(2) is -1; XW(2) is 0");
+    s.LAYER[1].PR = -1e300;
+    EXPECT_EQ(sentenceOf(*good), "PR(1) is -1E+300, card (7), data set 1: the number must be below 3.4E+38");
+    s.DEL = std::nanf("");
+    EXPECT_EQ(sentenceOf(*good), "DEL is not finite, card (4), data set 1: a number is needed");
+    s.MATL = 5;
+    EXPECT_EQ(sentenceOf(*good), "MATL is 5, card (3), data set 1: MATL must be 1, 2, 3 or 4");
 }
 
 TEST(LayeredCheck, LooksOnlyAtWhatTheDeckUses) {
@@ -89,62 +94,45 @@ TEST(LayeredCheck, LooksOnlyAtWhatTheDeckUses) {
 
 TEST(LayeredCheck, KnowsNonlinearLayers) {
     const auto good = nonlinearStore();
-    good->layered[1].EMOD[1][2] = 0;        // starts from K1
-    good->layered[1].KPER[2][1][2] = 5000;  // EMAX may be below K1, not below EMIN
-    expectFaults(*good, {{[](LayeredSet& s) { s.EMOD[1][1] = -1; }, "E(1, 1) is -1, card (11)"},
-                         {[](LayeredSet& s) { s.NOLAY = 1; }, "E(1, 2) is 0, card (11)"},
-                         {[](LayeredSet& s) { s.NOLAY = 0, s.EMOD[1][2] = 1; }, "NOLAY is 0, card (25)"},
-                         {[](LayeredSet& s) { s.ITENOL = 0; }, "ITENOL is 0, card (25)"},
-                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 0; }, "LAYNO(1) is 0, card (26)"},
-                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 3; }, "LAYNO(1) is 3, card (26)"},
-                         {[](LayeredSet& s) { s.NOLLAY[1].LAYNO = 2; }, "LAYNO(2) is 2, card (26)"},
-                         {[](LayeredSet& s) { s.NOLLAY[1].NCLAY = ""; }, "NCLAY(1) is empty, card (26)"},
-                         {[](LayeredSet& s) { s.NOLLAY[1].ZCNOL = 12.1; }, "ZCNOL(1) is 12.1, card (27)"},
-                         {[](LayeredSet& s) { s.NOLLAY[2].ZCNOL = 11.9; }, "ZCNOL(2) is 11.9, card (27)"},
-                         {[](LayeredSet& s) { s.NLG = 2, s.LOADL[2] = {0, 1, 60, 0, 0, 1}, s.RCNOL = 30000; },
-                          "RCNOL is 30000, card (28)"},
-                         {[](LayeredSet& s) { s.DELNOL = 0; }, "DELNOL is 0, card (28)"},
-                         {[](LayeredSet& s) { s.RELAX[1] = 0; }, "RELAX(1) is 0, card (29)"},
-                         {[](LayeredSet& s) { s.RELAX[1] = 1.5f; }, "RELAX(1) is 1.5, card (29)"},
-                         {[](LayeredSet& s) { s.LAYER[2].GAM = -120; }, "GAM(2) is -120, card (30)"},
-                         {[](LayeredSet& s) { s.KGRAN[1].K0 = -1; }, "K0(1) is -1, card (31)"},
-                         {[](LayeredSet& s) { s.KPER[1][1][1] = -5; }, "PHI(1, 1) is -5, card (33)"},
-                         {[](LayeredSet& s) { s.KPER[1][1][2] = 0; }, "K1(1, 1) is 0, card (33)"},
-                         {[](LayeredSet& s) { s.KPER[2][1][2] = 500; }, "EMAX(1, 2) is 500, card (33)"}});
-    good->layered[1].NOLLAY[2].ZCNOL = 12;
-    EXPECT_EQ(sentenceOf(*good), "") << "a boundary belongs to both layers";
-    good->layered[1].NOLAY = 1;
-    EXPECT_TRUE(sentenceOf(*good).ends_with("cards (26) and (37)")) << "the modulus 0 of layer 2";
+    LayeredSet& s = good->layered[1];
+    s.KPER[2][1][2] = 5000;  // EMAX may be below K1, not below EMIN
+    s.NLG = 2;
+    s.LOADL[2] = {0, 1, 60, 0, 0, 1};
+    expectFaults(*good,
+                 "E(1, 1) is -1; NOLAY is 0; NOLAY is 13; ITENOL is 0; LAYNO(1) is 0; LAYNO(1) is 3; "
+                 "LAYNO(2) is 1; NCLAY(1) is empty; ZCNOL(1) is 12.1; ZCNOL(2) is 11.9; RCNOL is 30000; "
+                 "DELNOL is 0; RELAX(1) is 0; RELAX(1) is 1.5; GAM(2) is -120; K0(1) is -1; "
+                 "PHI(1, 1) is -5; K1(1, 1) is 0; EMAX(1, 2) is 500");
+    s.NOLLAY[2].ZCNOL = 12;
+    s.EMOD[1][2] = 0;
+    EXPECT_EQ(sentenceOf(*good), "") << "a boundary belongs to both layers; iterations start from K1";
+    s.NOLAY = 1;
+    EXPECT_TRUE(sentenceOf(*good).starts_with("E(1, 2) is 0, card (11)"));
 }
 
 TEST(LayeredCheck, KnowsViscoelasticLayersAndDamage) {
     const auto good = viscousHalfSpace(.1, {.1, 1, 10}, {});
+    LayeredSet& viscous = good->layered[1];
+    EXPECT_EQ(sentenceOf(*good), "") << "without a modulus";
+    viscous.EMOD[1][2] = 1;
     expectFaults(*good,
-                 {{[](LayeredSet& s) { s.NVL = 1; }, "E(1, 2) is 0, card (11)"},
-                  {[](LayeredSet& s) { s.DUR = -1; }, "DUR is -1, card (36)"},
-                  {[](LayeredSet& s) { s.NVL = 13; }, "NVL is 13, card (37)"},
-                  {[](LayeredSet& s) { s.EMOD[1][2] = 1, s.VISLAY[2].LNV = 0; }, "LNV(2) is 0, card (37)"},
-                  {[](LayeredSet& s) { s.EMOD[1][2] = 1, s.VISLAY[2].LNV = 1; }, "LNV(2) is 1, card (37)"},
-                  {[](LayeredSet& s) { s.NTYME = 16; }, "NTYME is 16, card (38)"},
-                  {[](LayeredSet& s) { s.TYME[1] = 0; }, "TYME(1) is 0, card (39)"},
-                  {[](LayeredSet& s) { s.TYME[2] = .1; }, "TYME(2) is .1, card (39)"},
-                  {[](LayeredSet& s) { s.CREEP[2][3] = 0; }, "CREEP(2, 3) is 0, card (42)"},
-                  {[](LayeredSet& s) { s.TEMP[1][2] = "warm"; }, "TEMP(1, 2) is warm, card (44)"}});
+                 "DUR is -1; NVL is 13; LNV(2) is 0; LNV(2) is 1; NTYME is 16; TYME(1) is 0; TYME(2) is .1; "
+                 "CREEP(2, 3) is 0; TEMP(1, 2) is warm");
+    viscous.EMOD[1][2] = 0;
+    viscous.NVL = 1;
+    EXPECT_TRUE(sentenceOf(*good).starts_with("E(1, 2) is 0, card (11)"));
 
     const auto both = nonlinearStore();
-    LayeredSet& s = both->layered[1];
-    s.MATL = 4;
-    s.NVL = 1, s.VISLAY[1].LNV = 2;
+    both->layered[1].MATL = 4;
+    both->layered[1].NVL = 1, both->layered[1].VISLAY[1].LNV = 2;
     EXPECT_TRUE(sentenceOf(*both).starts_with("LNV(1) is 2, card (37)")) << sentenceOf(*both);
 
-    expectFaults(*damageStore(), {{[](LayeredSet& s) { s.LOADL[1].NR = 0; }, "NR(1) is 0, card (16)"},
-                                  {[](LayeredSet& s) { s.NLBT = 20; }, "NLBT is 20, card (46)"},
-                                  {[](LayeredSet& s) { s.NLBT = s.NLTC = 0; }, "NLTC is 0, card (46)"},
-                                  {[](LayeredSet& s) { s.DAMBT[1].LNBT = 3; }, "LNBT(1) is 3, card (47)"},
-                                  {[](LayeredSet& s) { s.DAMTC[1].LNTC = 4; }, "LNTC(1) is 4, card (48)"},
-                                  {[](LayeredSet& s) { s.TNLR[1][1] = -1; }, "TNLR(1, 1) is -1, card (49)"},
-                                  {[](LayeredSet& s) { s.DAMBT[1].FT1 = 0; }, "FT1(1) is 0, card (50)"},
-                                  {[](LayeredSet& s) { s.DAMTC[1].FT4 = 0; }, "FT4(1) is 0, card (51)"}});
+    const auto damage = damageStore();
+    expectFaults(
+        *damage,
+        "NR(1) is 0; NLBT is 20; LNBT(1) is 3; LNTC(1) is 4; TNLR(1, 1) is -1; FT1(1) is 0; FT4(1) is 0");
+    damage->layered[1].NLBT = damage->layered[1].NLTC = 0;
+    EXPECT_TRUE(sentenceOf(*damage).starts_with("NLTC is 0, card (46)"));
 }
 
 }  // namespace

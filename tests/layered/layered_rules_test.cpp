@@ -2,7 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <sstream>
+
+#include "layered/layered_deck.h"
 #include "store/store.h"
+#include "support/example_files.h"
 
 namespace {
 
@@ -12,46 +16,35 @@ std::string texts(const std::vector<Variant>& values) {
     return joined;
 }
 
-/// A set in which every place that a new file may or may not clear holds a 7.
-LayeredSet usedSet() {
-    LayeredSet set;
-    set.TITLE = "older deck";
-    for (int i = 1; i <= 19; ++i) {
-        set.ZC[i] = 7;
-        set.INTF[i] = 7;
-        set.LAYER[i] = {7, 7, 7};
-        set.DAMBT[i] = {7, 7, 7, 7};
-        set.DAMTC[i] = {7, 7, 7};
-    }
-    for (int t = 1; t <= 15; ++t) set.TYME[t] = 7;
-    for (int i = 1; i <= 12; ++i) {
-        set.LOADL[i] = {7, 7, 7, 7, 7, 7};
-        set.NOLLAY[i] = {7, 7, 7};
-        set.VISLAY[i] = {7, 7, 7};
-        for (int p = 1; p <= 25; ++p) {
-            set.RC[i][p] = 7;
-            set.PT[i][p] = {7, 7};
-        }
-        for (int t = 1; t <= 15; ++t) set.CREEP[i][t] = 7;
-        for (int l = 1; l <= 19; ++l) set.EMOD[i][l] = 7;
-        for (int j = 1; j <= 12; ++j) set.TEMP[i][j] = 7;
-    }
-    return set;
+std::string texts(const std::vector<Cell>& cells) {
+    std::vector<Variant> values;
+    for (const Cell& cell : cells)
+        values.push_back(std::visit([](auto* held) { return Variant(*held); }, cell));
+    return texts(values);
 }
 
 TEST(NewFileDefaults, ClearAsFarAsTheyReachAndNoFurther) {
-    LayeredSet set = usedSet();
+    LayeredSet set;
+    const std::vector<Cell> reached = {&set.INTF[18],     &set.CREEP[12][12], &set.TYME[11],
+                                       &set.EMOD[12][19], &set.RC[12][24],    &set.VISLAY[1].LNV,
+                                       &set.DAMBT[12].FT1};
+    const std::vector<Cell> beyond = {&set.INTF[19],      &set.CREEP[12][13], &set.TYME[12],
+                                      &set.RC[12][25],    &set.PT[1][25].YPT, &set.DAMBT[13].FT1,
+                                      &set.DAMBT[1].LNBT, &set.DAMTC[13].FT5, &set.VISLAY[1].TEMPREF,
+                                      &set.TEMP[1][1]};
+    for (const auto& cells : {reached, beyond}) {
+        for (const Cell& cell : cells) {
+            ListReader seven = ListReader::fromText("7");
+            readCell(seven, cell);
+        }
+    }
+    set.TITLE = "older deck";
     setNewFileDefaults(set);
     EXPECT_EQ(set.TITLE, "");
     EXPECT_TRUE(set.LOADL[12].NR.isEmptyText());
     EXPECT_TRUE(set.NOLLAY[12].NCLAY.isEmptyText());
-    EXPECT_EQ(texts({set.INTF[18], set.CREEP[12][12], set.TYME[11], set.RC[12][24], set.VISLAY[1].LNV,
-                     set.DAMBT[12].FT1}),
-              "0 0 100 0 0 .0796");
-    EXPECT_EQ(texts({set.INTF[19], set.CREEP[12][13], set.TYME[12], set.RC[12][25], set.PT[1][25].YPT,
-                     set.DAMBT[13].FT1, set.DAMBT[1].LNBT, set.DAMTC[13].FT5, set.VISLAY[1].TEMPREF,
-                     set.TEMP[1][1]}),
-              "7 7 7 7 7 7 7 7 7 7");
+    EXPECT_EQ(texts(reached), "0 0 100 0 0 0 .0796");
+    EXPECT_EQ(texts(beyond), "7 7 7 7 7 7 7 7 7 7");
 }
 
 TEST(UnitDefaults, FollowTheSystemOfUnits) {
@@ -65,47 +58,41 @@ TEST(UnitDefaults, FollowTheSystemOfUnits) {
               ".2034 21.1 .414 0");
 }
 
-class Copying : public ::testing::Test {
-  protected:
-    Copying() {
-        first = usedSet();
-        first.NPY = first.NLG = first.NLBT = 2;
-        first.NLTC = 1;
-        first.NL = 3;
-        first.NZ = 4;
-        first.NVL = 1;
-        first.NTYME = 11;
-        first.NOLAY = 2;
-        first.LOADL[1].NR = 3;
-        first.LOADL[2].NR = "2";  // as a table cell stores it
+TEST(Copying, ReachesAsFarAsTheCountsOfTheFirstSet) {
+    for (const char* deck : {"BED1.DAT", "BED2.DAT", "BED6.DAT"}) {
+        Store store;
+        readLayeredDeck(TOLMARK_SOURCE_DIR "/examples/" + std::string(deck), store);
+        LayeredSet& first = store.layered[1];
+        first.ZC[5] = first.EMOD[1][4] = first.RC[2][5] = first.DAMBT[2].FT3 = first.TEMP[2][2] = 7;
+        Initial(store, 3);
+        const LayeredSet& third = store.layered[3];
+        EXPECT_EQ(
+            texts({third.ZC[5], third.EMOD[1][4], third.RC[2][5], third.DAMBT[2].FT3, third.TEMP[2][2]}),
+            "0 0 0 0 0");
+        EXPECT_EQ(store.layered[2].TITLE, "");
+        first = third;
+        std::ostringstream copied;
+        ListWriter out(copied);
+        saveLayeredDeck(store, out);
+        out.close();
+        EXPECT_EQ(copied.str(), example(deck));
     }
+}
+
+TEST(Copying, EndsInSilenceWhereACountIsNoNumberOrBeyondTheStore) {
     Store store;
     LayeredSet& first = store.layered[1];
-    LayeredSet& third = store.layered[3];
-};
-
-TEST_F(Copying, ReachesAsFarAsTheCountsOfTheFirstSet) {
-    Initial(store, 3);
-    EXPECT_EQ(texts({third.ZC[4], third.EMOD[2][3], third.RC[2][2], third.DAMBT[2].FT3, third.TEMP[2][1]}),
-              "7 7 7 7 7");
-    EXPECT_EQ(texts({third.ZC[5], third.INTF[3], third.RC[2][3], third.DAMTC[2].FT5, third.TEMP[2][2]}),
-              "0 0 0 0 0");
-    EXPECT_EQ(store.layered[2].TITLE, "");
-}
-
-TEST_F(Copying, EndsInSilenceWhereACountIsNoNumber) {
+    first.NPY = first.NLG = first.NL = first.NLBT = 1;
+    first.ZC[1] = first.EMOD[1][1] = first.DAMBT[1].FT1 = first.LAYER[1].TH = 7;
+    first.NZ = 1;
+    first.NOLAY = first.NTYME = first.NVL = 1;
     first.LOADL[1].NR = "";
     Initial(store, 3);
-    EXPECT_TRUE(third.LOADL[1].NR.isEmptyText());
-    EXPECT_EQ(texts({third.EMOD[1][1], third.LOADL[2].CR, third.DAMBT[1].FT1, third.VISLAY[1].BETA}),
-              "7 0 0 0");
-}
-
-/// Seasonal parameters of period 13 come before the layers.
-TEST_F(Copying, EndsInSilenceAtTheBoundOfTheStore) {
-    first.NPY = 13;
-    Initial(store, 3);
-    EXPECT_EQ(texts({third.NPY, third.ZC[4], third.LAYER[1].TH}), "13 7 0");
+    EXPECT_TRUE(store.layered[3].LOADL[1].NR.isEmptyText());
+    EXPECT_EQ(texts({store.layered[3].EMOD[1][1], store.layered[3].DAMBT[1].FT1}), "7 0");
+    first.NPY = 13;  // seasonal parameters come before the layers
+    Initial(store, 4);
+    EXPECT_EQ(texts({store.layered[4].NPY, store.layered[4].ZC[1], store.layered[4].LAYER[1].TH}), "13 7 0");
 }
 
 TEST(MissingData, AnEmptyTextCountsAsZeroAndOnlyTheFirstSetIsLookedAt) {
@@ -119,35 +106,34 @@ TEST(MissingData, AnEmptyTextCountsAsZeroAndOnlyTheFirstSetIsLookedAt) {
     set.KPER[1][1][2] = 10000;
     EXPECT_EQ(ErrCheck1(store), std::nullopt);
     // Each comes before the one that is missing already.
-    set.KPER[1][1][2] = "";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("Seasonal\\Layer No."));
-    set.NOLLAY[1].LAYNO = "0";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("Nonseasonal Information"));
-    set.LAYER[1].TH = "";
-    EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr("layer thickness"));
-}
-
-std::string asking(const StatusRules& rules, const LayeredSet& set) {
-    std::string labels;
-    for (const auto& rule : rules) {
-        if (rule.needsInput(set)) labels += std::string(rule.label).substr(3) + " ";
+    const std::pair<Variant*, const char*> values[] = {{&set.KPER[1][1][2], "Seasonal\\Layer No."},
+                                                       {&set.NOLLAY[1].LAYNO, "Nonseasonal Information"},
+                                                       {&set.LAYER[1].TH, "layer thickness"}};
+    for (const auto& [value, menu] : values) {
+        *value = "";
+        EXPECT_THAT(ErrCheck1(store).value_or(""), ::testing::HasSubstr(menu));
     }
-    return labels;
 }
 
 TEST(StatusWords, DifferOnlyInWhatAsksForDepths) {
     LayeredSet set;
     setNewFileDefaults(set);
-    EXPECT_EQ(asking(colorCodeRules, set), "Zcoord ");
-    EXPECT_EQ(asking(generalRules, set), "");
+    const auto asking = [&](const StatusRules& rules) {
+        std::string labels;
+        for (const auto& rule : rules)
+            if (rule.needsInput(set)) labels += std::string(rule.label).substr(3) + " ";
+        return labels;
+    };
+    EXPECT_EQ(asking(colorCodeRules), "Zcoord ");
+    EXPECT_EQ(asking(generalRules), "");
     set.NDAMA = 1;
     set.NZ = 5;
     set.NBOND = 2;  // opens the interface table, and yet asks for nothing
-    EXPECT_EQ(asking(colorCodeRules, set), "Damage ");
-    EXPECT_EQ(asking(generalRules, set), "Zcoord Damage ");
+    EXPECT_EQ(asking(colorCodeRules), "Damage ");
+    EXPECT_EQ(asking(generalRules), "Zcoord Damage ");
     set.MATL = 4;
     set.NBOND = 0;
-    EXPECT_EQ(asking(generalRules, set), "Nonlinear Viscoelastic Zcoord Interface Damage ");
+    EXPECT_EQ(asking(generalRules), "Nonlinear Viscoelastic Zcoord Interface Damage ");
 }
 
 }  // namespace

@@ -119,8 +119,8 @@ struct Response {
 
 struct Result {
     std::vector<Response> responses;  ///< point by point: [iPoint * depths.size() + iDepth]
-    int cycles;                       ///< as in AxisymmetricResult
-    bool converged;
+    int cycles = 0;                   ///< as in AxisymmetricResult
+    bool converged = true;
 };
 
 /// All wheels of `load` together, responses at all `points` x `depths`, for several structures at once.
