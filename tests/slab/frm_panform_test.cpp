@@ -71,6 +71,10 @@ TEST_F(Panform, WordsUnderTheMenusOpenTheirTablesFromTheFirstLineOn) {
         EXPECT_EQ(store.MainLines, lines);
         EXPECT_EQ(store.CurTopRow + store.CurGroup, 1);
     }
+    set.NPY = 4;
+    click(*menu, "lblAdjust");
+    EXPECT_TRUE(isOpen("frmspreadb"));
+    EXPECT_EQ(store.TblLines, 4);
 }
 
 TEST_F(Panform, MenusRefuseWithoutTheirData) {
