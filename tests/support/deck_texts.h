@@ -49,31 +49,26 @@ inline std::string mutated(const std::string& deck, RandomCells& random) {
     std::istringstream stream(deck);
     for (std::string token; stream >> token;)
         tokens.push_back(token + (stream.peek() == '\r' ? "\r\n" : " "));
-    const auto any = [&] {
-        return static_cast<std::ptrdiff_t>(random.from(0, static_cast<int>(tokens.size()) - 1));
+    const auto upTo = [&](std::size_t most) {
+        return static_cast<std::size_t>(random.from(0, static_cast<int>(most)));
     };
     static const char* spoils[] = {"-1 ",  "0 ", "1E9 ", "1E39 ", "32768 ", "2.5 ",
                                    "abc ", "\"", ",",    "\n",    "(9) ",   ""};
-    for (int times = random.from(1, 4); times > 0 && tokens.size() > 1; --times) {
-        const auto at = any();
-        const auto token = tokens.begin() + at;
-        switch (random.from(0, 4)) {
+    for (std::size_t times = 1 + upTo(3); times > 0; --times) {
+        const std::size_t at = upTo(tokens.size() - 1);
+        switch (random.from(0, 3)) {
             case 0:
-                tokens.erase(token + 1, tokens.end());
-                tokens.back().resize(
-                    static_cast<std::size_t>(random.from(0, static_cast<int>(token->size()))));
+                tokens.resize(at + 1);
+                tokens[at].resize(upTo(tokens[at].size()));
                 break;
             case 1:
-                tokens.insert(token, std::string(*token));
+                tokens[at] += tokens[at];
                 break;
             case 2:
-                tokens.erase(token);
-                break;
-            case 3:
-                std::swap(*token, tokens[static_cast<std::size_t>(any())]);
+                std::swap(tokens[at], tokens[upTo(tokens.size() - 1)]);
                 break;
             default:
-                *token = spoils[random.from(0, 11)];
+                tokens[at] = spoils[upTo(std::size(spoils) - 1)];
         }
     }
     std::string text;

@@ -22,18 +22,9 @@ class RandomCells {
 
     Variant someCell() {
         const Double value = someNumber();
-        switch (from(0, 4)) {
-            case 0:
-                return from(-20000, 20000);
-            case 1:
-                return static_cast<Single>(value);
-            case 2:
-                return numberText(value);
-            case 3:
-                return Variant(" " + std::to_string(from(0, 99)) + ". ");
-            default:
-                return value;
-        }
+        const Variant cells[] = {from(-20000, 20000), static_cast<Single>(value), numberText(value),
+                                 " " + std::to_string(from(0, 99)) + ". ", value};
+        return cells[from(0, 4)];
     }
     /// Mostly small, so that decks stay short.
     Variant someCount(int most) {

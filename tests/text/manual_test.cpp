@@ -28,13 +28,12 @@ Lines linesOf(const std::string& text) {
 bool isDeck(const std::string& page) { return page.starts_with("BED") || page.starts_with("PAN"); }
 
 TEST(Manual, IsPlainTextThatFitsItsBoxAndItsPaper) {
+    static const std::regex plain("([ -~]*[!-~])?");
     for (const auto& [page, text] : embeddedPages()) {
         if (isDeck(page)) continue;
         for (const std::string& line : linesOf(text)) {
             EXPECT_LE(line.size(), 75U) << page << ": " << line;
-            EXPECT_FALSE(line.ends_with(' ')) << page << ": " << line;
-            const auto printable = [](char c) { return c >= ' ' && c <= '~'; };
-            EXPECT_TRUE(std::all_of(line.begin(), line.end(), printable)) << page << ": " << line;
+            EXPECT_TRUE(std::regex_match(line, plain)) << page << ": " << line;
         }
     }
 }
@@ -68,7 +67,7 @@ TEST(Manual, ShowsDecksInLinesThatFit) {
             std::istringstream whole(line);
             bool inLabel = false;
             for (std::string word, piece; whole >> word;) {
-                EXPECT_TRUE(pieces >> piece) << name << ": " << word;
+                pieces >> piece;
                 if (inLabel && piece == "...") break;  // a label may be cut
                 EXPECT_EQ(piece, word) << name;
                 inLabel = inLabel || word.starts_with('(');
@@ -123,12 +122,11 @@ TEST(Manual, HasEveryLineOfTheDataFilesInItsOrder) {
 
 /// Fields that the page describes: in capitals at the left margin, with text behind or above them.
 std::multiset<std::string> fieldsOnPage(const std::string& page) {
-    static const std::regex field("([A-Z][A-Z0-9]*) {2,}\\S.*");
+    static const std::regex field("([A-Z][A-Z0-9]*) {2,}\\S.*|(TEMPREF) .*");
     std::multiset<std::string> fields;
     for (const std::string& line : linesOf(textPage(page, "\n"))) {
         std::smatch found;
-        if (std::regex_match(line, found, field) || std::regex_match(line, found, std::regex("(TEMPREF) .*")))
-            fields.insert(found[1]);
+        if (std::regex_match(line, found, field)) fields.insert(found[1].str() + found[2].str());
     }
     return fields;
 }
@@ -139,9 +137,7 @@ void expectEveryField(const std::string& page, const std::vector<Described>& car
     std::set<std::string> wanted;
     for (const auto& [card, fields] : cards)
         for (const std::string& field : fields) wanted.insert(field.substr(0, field.find('(')));
-    for (const std::string& field : wanted) EXPECT_GE(described.count(field), 1U) << page << ": " << field;
-    for (const std::string& field : described)
-        EXPECT_TRUE(wanted.contains(field)) << page << ": " << field << " is no field";
+    EXPECT_EQ(std::set(described.begin(), described.end()), wanted) << page;
 }
 
 TEST(Manual, DescribesEveryFieldOfTheDecks) {
@@ -152,24 +148,24 @@ TEST(Manual, DescribesEveryFieldOfTheDecks) {
 }
 
 TEST(Manual, SheetsHaveTheirTitlesAndHeights) {
-    const std::map<std::string, std::pair<std::string, int>> wanted = {
-        {"frmBed1", {"Example 1: Linear Elastic Three-layer System under Dual-Tandem Tires", 4170}},
-        {"frmBed2", {"Example 2: Nonlinear Elastic Two-layer System under a Circular Load", 3750}},
-        {"frmBed3", {"Example 3: Viscoelatic Two-layer System under stationary Circular Load", 5000}},
-        {"frmBed4", {"Example 4: Viscoelastic Three-layer System with 4 Periods and 1 Load Group", 3580}},
-        {"frmBed5", {"Example 5: Linear Elsatic Two-layer System with 1 Period and 3 Load Groups", 4800}},
-        {"frmBed6", {"Example 6: N. Elastic and Viscoelastic with 2 Periods and 2 Load Groups", 5220}},
-        {"frmPan1", {"Example 1: Curling of Slab with Full Contact: (a) Liquid Foundation and (b)", 4100}},
-        {"frmPan2", {"Example 2:  Curling of Slab with Partial Contact: (a) Liquid Foundation", 3950}},
-        {"frmPan3", {"Example 3:  Two Slabs on Solid Foundation with Full Contact", 4400}},
-        {"frmPan4", {"Example 4:  Damage Analysis with Two Periods and Three Load Groups", 4450}},
-        {"frmPan5", {"Example 5: Four Slabs on Layer Foundation with Partial Contact", 4400}},
-        {"frmPan6", {"Example 6: Raft on Solid Foundation with Retaining Walls on three sides", 4900}},
-        {"frmMohr", {"Failure Envelope of Granular Materials", 3885}}};
-    std::map<std::string, std::pair<std::string, int>> found;
+    std::string found;
     for (const Sheet& sheet : sheets())
-        found[sheet.form] = {linesOf(embeddedPages().at(sheet.page)).front(), sheet.printHeight};
-    EXPECT_EQ(found, wanted);
+        found += sheet.form + " " + std::to_string(sheet.printHeight) + " " +
+                 linesOf(embeddedPages().at(sheet.page)).front() + "\n";
+    EXPECT_EQ(found, R"(frmBed1 4170 Example 1: Linear Elastic Three-layer System under Dual-Tandem Tires
+frmBed2 3750 Example 2: Nonlinear Elastic Two-layer System under a Circular Load
+frmBed3 5000 Example 3: Viscoelatic Two-layer System under stationary Circular Load
+frmBed4 3580 Example 4: Viscoelastic Three-layer System with 4 Periods and 1 Load Group
+frmBed5 4800 Example 5: Linear Elsatic Two-layer System with 1 Period and 3 Load Groups
+frmBed6 5220 Example 6: N. Elastic and Viscoelastic with 2 Periods and 2 Load Groups
+frmPan1 4100 Example 1: Curling of Slab with Full Contact: (a) Liquid Foundation and (b)
+frmPan2 3950 Example 2:  Curling of Slab with Partial Contact: (a) Liquid Foundation
+frmPan3 4400 Example 3:  Two Slabs on Solid Foundation with Full Contact
+frmPan4 4450 Example 4:  Damage Analysis with Two Periods and Three Load Groups
+frmPan5 4400 Example 5: Four Slabs on Layer Foundation with Partial Contact
+frmPan6 4900 Example 6: Raft on Solid Foundation with Retaining Walls on three sides
+frmMohr 3885 Failure Envelope of Granular Materials
+)");
 }
 
 TEST(Sheets, FiguresStandOnThePartThatIsPrinted) {

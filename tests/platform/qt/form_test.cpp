@@ -62,9 +62,8 @@ TEST_F(FormTest, ALoadedFormStaysTheSameObject) {
     ASSERT_NE(form, nullptr);
     EXPECT_EQ(screens.load("frmOne"), form);
     EXPECT_EQ(one.loads, 1);
-    screens.unload("frmOne");
+    for (int time = 0; time < 2; ++time) screens.unload("frmOne");
     EXPECT_EQ(screens.loaded("frmOne"), nullptr);
-    screens.unload("frmOne");
     EXPECT_EQ(deletions(one), 1);
     EXPECT_EQ(one.questions, 0);
 }
@@ -83,14 +82,13 @@ TEST_F(FormTest, AFailedLoadLeavesNoForm) {
 TEST_F(FormTest, AFormMayUnloadItselfInItsHandler) {
     Form* form = screens.load("frmOne");
     form->Show();
-    std::string seen;
-    form->control<Button>("cmdOk").onClick = [&] {
+    auto& button = form->control<Button>("cmdOk");
+    button.onClick = [&] {
         screens.unload("frmOne");
-        seen = form->isVisible() ? "still there" : form->name();
+        EXPECT_FALSE(form->isVisible());
         screens.load("frmOne");
     };
-    QTest::mouseClick(&form->control<Button>("cmdOk"), Qt::LeftButton);
-    EXPECT_EQ(seen, "frmOne");
+    QTest::mouseClick(&button, Qt::LeftButton);
     EXPECT_NE(screens.loaded("frmOne"), form);
     EXPECT_EQ(deletions(one), 1);
     EXPECT_NE(screens.loaded("frmOne"), nullptr);
@@ -122,10 +120,9 @@ TEST_F(FormTest, ClosingByTheFrameAsksTheForm) {
 }
 
 TEST_F(FormTest, OneFormOfAGroupIsOpenAndRefusingToCloseKeepsIt) {
-    Form* first = screens.load("frmTable");
+    screens.load("frmTable");
     Form* second = screens.load("frmOtherTable");
     EXPECT_EQ(screens.loaded("frmTable"), nullptr);
-    EXPECT_NE(second, first);
     Form* again = screens.load("frmOtherTable");
     EXPECT_NE(again, second);
     table.mayClose = false;

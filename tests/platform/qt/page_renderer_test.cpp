@@ -28,34 +28,26 @@ Page aPage() {
     return page;
 }
 
-struct Placed {
-    QString text;
-    double x, y;
-};
-
-std::vector<Placed> textsOfSvg(const std::string& svg) {
-    static const QRegularExpression form(R"rx(<text[^>]* x="([^"]*)" y="([^"]*)"[^>]*>([^<]*)<)rx");
-    std::vector<Placed> all;
-    for (auto found = form.globalMatch(QString::fromStdString(svg)); found.hasNext();) {
-        const auto match = found.next();
-        all.push_back({match.captured(3), match.captured(1).toDouble(), match.captured(2).toDouble()});
-    }
-    return all;
-}
-
 TEST(PageRenderer, TextGoesOnWhereTheLastOneEnded) {
     TemporaryDirectory directory;
     renderSvg(aPage(), directory.path() + "page.svg");
-    const auto texts = textsOfSvg(directory.read("page.svg"));
-    ASSERT_EQ(texts.size(), 4U);
+    static const QRegularExpression text(R"rx(<text[^>]* x="([^"]*)" y="([^"]*)"[^>]*>([^<]*)<)rx");
+    QStringList texts;
+    std::vector<double> x, y;
+    const QString svg = QString::fromStdString(directory.read("page.svg"));
+    for (const auto& found : text.globalMatch(svg)) {
+        x.push_back(found.captured(1).toDouble());
+        y.push_back(found.captured(2).toDouble());
+        texts << found.captured(3);
+    }
+    ASSERT_EQ(texts, QStringList({"Radius =", " 4.5 ", "in.", "below"})) << "with their blanks";
     const QFontMetricsF measures(twipFont({}));
-    EXPECT_NEAR(texts[0].x, 1700, 0.01);
-    EXPECT_NEAR(texts[0].y, 1500 + measures.ascent(), 0.01) << "the position is the text's top";
-    EXPECT_NEAR(texts[1].x, 1700 + measures.horizontalAdvance("Radius ="), 0.01);
-    EXPECT_EQ(texts[1].text, " 4.5 ") << "blanks are part of a number's text";
-    EXPECT_NEAR(texts[2].x, 1700 + measures.horizontalAdvance("Radius = 4.5 "), 0.01);
-    EXPECT_EQ(texts[3].x, 0);
-    EXPECT_NEAR(texts[3].y - texts[2].y, measures.lineSpacing(), 0.01);
+    EXPECT_NEAR(x[0], 1700, 0.01);
+    EXPECT_NEAR(y[0], 1500 + measures.ascent(), 0.01) << "the position is the text's top";
+    EXPECT_NEAR(x[1], 1700 + measures.horizontalAdvance("Radius ="), 0.01);
+    EXPECT_NEAR(x[2], 1700 + measures.horizontalAdvance("Radius = 4.5 "), 0.01);
+    EXPECT_EQ(x[3], 0);
+    EXPECT_NEAR(y[3] - y[2], measures.lineSpacing(), 0.01);
 }
 
 TEST(PageRenderer, PdfHoldsTextAtItsPlaceAndEmbedsTheFont) {

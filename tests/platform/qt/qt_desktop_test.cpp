@@ -45,7 +45,7 @@ class ShellTest : public ::testing::Test {
 
     std::string solver() const { return directory.path() + "TOLSTRAT.EXE"; }
     void letSolverGoOn() const { directory.write("go on", ""); }
-    bool finished() const { return std::filesystem::exists(directory.path() + "finished"); }
+    bool exists(const char* name) const { return std::filesystem::exists(directory.path() + name); }
 
     static QList<QWidget*> consoles() {
         QList<QWidget*> found;
@@ -66,7 +66,7 @@ class ShellTest : public ::testing::Test {
 TEST_F(ShellTest, TheConsoleWindowFollowsTheProcessToItsEnd) {
     desktop.Shell(solver(), "/my data/two lane road");
     ASSERT_EQ(consoles().size(), 1);
-    QWidget* window = consoles().first();
+    const QWidget* window = consoles().first();
     const auto* text = window->findChild<QPlainTextEdit*>("txtConsole");
     const auto* state = window->findChild<QLabel*>("lblState");
     const auto shows = [&](const char* words) { return text->toPlainText().contains(words); };
@@ -88,9 +88,9 @@ TEST_F(ShellTest, TheProcessGoesOnWithoutItsWindow) {
     EXPECT_TRUE(consoleFileExists());
     consoles().first()->close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !consoleFileExists(); }));
-    EXPECT_FALSE(finished());
+    EXPECT_FALSE(exists("finished"));
     letSolverGoOn();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return finished(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return exists("finished"); }));
 }
 
 TEST_F(ShellTest, AProgramThatCannotBeStartedIsTold) {
@@ -114,7 +114,7 @@ TEST_F(ShellTest, ATerminalOpensInTheDirectoryOrItsLackIsTold) {
     programs.write("xterm", "#!/bin/sh\n: > 'was here'\n");
     std::filesystem::permissions(programs.path() + "xterm", std::filesystem::perms::owner_all);
     desktop.openTerminal(directory.path());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(directory.path() + "was here"); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return exists("was here"); }));
 }
 
 TEST(QtDesktop, ChDirFailsForWhatIsNoDirectoryAndMkDirMakesOneLevelInSilence) {
