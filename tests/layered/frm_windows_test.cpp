@@ -6,18 +6,7 @@
 
 namespace {
 
-class LayeredWindows : public LayeredScreens, public ::testing::WithParamInterface<double> {
-  protected:
-    LayeredWindows() {
-        QFont larger = usual_;
-        larger.setPointSizeF(usual_.pointSizeF() * GetParam());
-        QApplication::setFont(larger);
-    }
-    ~LayeredWindows() override { QApplication::setFont(usual_); }
-
-  private:
-    const QFont usual_ = QApplication::font();
-};
+using LayeredWindows = AtScales<LayeredScreens>;
 
 TEST_P(LayeredWindows, AreWellMade) {
     LayeredSet& set = store.layered[1];

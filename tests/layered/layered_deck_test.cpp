@@ -22,14 +22,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-std::string deckOf(const Store& store) {
-    std::ostringstream stream;
-    ListWriter out(stream);
-    saveLayeredDeck(store, out);
-    out.close();
-    return stream.str();
-}
-
 DeckReadResult readText(const std::string& deck, Store& store, const LayeredReadHooks& hooks = {}) {
     ListReader in = ListReader::fromText(deck);
     return readLayeredDeck(in, store, hooks);
@@ -41,14 +33,14 @@ TEST(LayeredDeck, ATypedTextIsWrittenAsItStands) {
     s.LAYER[1].TH = "4.50";  // a text brings no blanks of its own
     s.LAYER[2].TH = 1.365e-9f;
     s.LAYER[1].PR = "-.5";
-    EXPECT_THAT(linesAfter(deckOf(*store), "NUNIT"),
+    EXPECT_THAT(linesAfter(layeredDeckOf(*store), "NUNIT"),
                 StartsWith("4.50  1.365E-09   (6) TH|-.5  .3   .45   (7) PR|"));
 }
 
 TEST(LayeredDeck, CardsComeByTheirConditions) {
     const auto store = threeLayerStore();
     LayeredSet& s = store->layered[1];
-    const auto after = [&](const char* label) { return linesAfter(deckOf(*store), label); };
+    const auto after = [&](const char* label) { return linesAfter(layeredDeckOf(*store), label); };
     s.INTF[2] = 1;
     for (const Single NBOND : {0.f, 2.f}) {
         s.NBOND = NBOND;
@@ -72,7 +64,7 @@ TEST(LayeredDeck, WheelsWithoutPointsLeaveTheLineOpen) {
     s.LOADL[2] = {1, 4.5f, 100.0f, 13.5f, 0, "0"};
     store->NPROB = 2;
     store->layered[2] = threeLayerStore()->layered[1];
-    const std::string deck = deckOf(*store);
+    const std::string deck = layeredDeckOf(*store);
     const std::string loads = linesAfter(deck, "(11) E");
     EXPECT_THAT(loads, HasSubstr(" 0   (19) NPT| 48   13.5   1   (13) LOAD|"));
     EXPECT_THAT(loads, HasSubstr("0  (19) NPT| 0   13.5  Three layers| 1  0  1"));
@@ -89,15 +81,16 @@ TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
     LayeredSet& s = store.layered[1];
     s.NVL = 2;  // from two layers on the count has a line of its own
     s.VISLAY[2] = {2, .113, 70};
-    EXPECT_THAT(linesAfter(deckOf(store), "(36) DUR"), StartsWith(" 2 | 1   2   (37) NVL LNV| 11  (38)"));
+    EXPECT_THAT(linesAfter(layeredDeckOf(store), "(36) DUR"),
+                StartsWith(" 2 | 1   2   (37) NVL LNV| 11  (38)"));
     s.NVL = 0;
-    EXPECT_THAT(linesAfter(deckOf(store), "(36) DUR"), StartsWith(" 0  11  (38) NTYME|"));
-    EXPECT_THAT(linesAfter(deckOf(store), "(39) TYME"), StartsWith(" 1  1  (46)"));
+    EXPECT_THAT(linesAfter(layeredDeckOf(store), "(36) DUR"), StartsWith(" 0  11  (38) NTYME|"));
+    EXPECT_THAT(linesAfter(layeredDeckOf(store), "(39) TYME"), StartsWith(" 1  1  (46)"));
     s.NLBT = 0;
-    EXPECT_EQ(linesAfter(deckOf(store), "(49) TNLR\r\n 52000   13000   (49) TNLR"),
+    EXPECT_EQ(linesAfter(layeredDeckOf(store), "(49) TNLR\r\n 52000   13000   (49) TNLR"),
               " 1.365E-09   4.477   (51) FT4 FT5|");
     s.KGRAN[1] = {".5", ".6"};  // close texts keep apart
-    EXPECT_THAT(deckOf(store), HasSubstr(" .5  .6  (31) K2 K0\r\n"));
+    EXPECT_THAT(layeredDeckOf(store), HasSubstr(" .5  .6  (31) K2 K0\r\n"));
 }
 
 TEST(LayeredDeck, RandomStoresKeepTheirValues) {
@@ -107,15 +100,15 @@ TEST(LayeredDeck, RandomStoresKeepTheirValues) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
         const auto store = stores.next();
         Store read;
-        const DeckReadResult result = readText(deckOf(*store), read);
+        const DeckReadResult result = readText(layeredDeckOf(*store), read);
         ASSERT_EQ(result.sentence(), "");
         ASSERT_THAT(result.remarks, ElementsAre());
         ASSERT_EQ(read.NPROB, store->NPROB);
         for (int n = 1; n <= store->NPROB; ++n)
             ASSERT_EQ(valuesOf(read.layered[n], layeredCards()), valuesOf(store->layered[n], layeredCards()));
-        const std::string again = deckOf(read);  // texts have become numbers: from here on it stays
+        const std::string again = layeredDeckOf(read);  // texts have become numbers: from here on it stays
         ASSERT_EQ(readText(again, *store).outcome, Outcome::Complete);
-        ASSERT_EQ(deckOf(*store), again);
+        ASSERT_EQ(layeredDeckOf(*store), again);
     }
 }
 
@@ -146,8 +139,8 @@ TEST(LayeredDeck, OldFormatDiffersInThreePlaces) {
             "line 23: card (29), data set 1: the label is short, so that GAM is taken per cubic inch and "
             "multiplied by 1728"));
     EXPECT_EQ(read.layered[1].KPER[1][2][1], Variant(45));
-    EXPECT_THAT(deckOf(read), HasSubstr(" 80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"));
-    EXPECT_THAT(deckOf(read), HasSubstr(" 146   136   122   (30) GAM\r\n"));
+    EXPECT_THAT(layeredDeckOf(read), HasSubstr(" 80  9  0  (5) NL NZ ICL NSTD NUNIT\r\n"));
+    EXPECT_THAT(layeredDeckOf(read), HasSubstr(" 146   136   122   (30) GAM\r\n"));
     EXPECT_THAT(readText(replaced(old, ".0845 ", "146 "), read).sentence(),
                 HasSubstr("GAM(1), card (30), data set 1: 146 per cubic inch is out of range"));
     EXPECT_EQ(readText(replaced(example("BED2.DAT"), ") DEL", ")"), read).sentence(), "")
@@ -268,7 +261,7 @@ TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
         const auto store = random.next();
         DeckReadResult result;
-        ASSERT_NO_THROW(result = readText(mutated(deckOf(*store), random), *store));
+        ASSERT_NO_THROW(result = readText(mutated(layeredDeckOf(*store), random), *store));
         ASSERT_EQ(result.sentence().empty(), result.outcome == Outcome::Complete);
         outcomes.insert(result.outcome);
     }

@@ -3,6 +3,7 @@
 #include "layered/layered_deck.h"
 #include "layered/layered_rules.h"
 #include "roads/road.h"
+#include "support/deck_texts.h"
 #include "support/example_files.h"
 #include "support/text_change.h"
 
@@ -12,14 +13,6 @@ struct Journey {
     const char* deck;
     Cells told;  ///< what the plot pages tell in this order, among others
 };
-
-std::string deckOf(const Store& store) {
-    std::ostringstream text;
-    ListWriter out(text);
-    saveLayeredDeck(store, out);
-    out.close();
-    return text.str();
-}
 
 void PrintTo(const Journey& journey, std::ostream* out) { *out << journey.deck; }
 
@@ -221,7 +214,7 @@ TEST_P(LayeredRoad, FromAnEmptyMachineToThePlottedPages) {
     Store saved;  // numbers stand as they were typed: once read and written they stand as in the example
     readLayeredDeck(directory.path() + "road.DAT", saved);
     const std::string deck = GetParam().deck;
-    EXPECT_EQ(deckOf(saved), deck == "BED6SI" ? deckOf(*wanted_) : example(deck + ".DAT"));
+    EXPECT_EQ(layeredDeckOf(saved), deck == "BED6SI" ? layeredDeckOf(*wanted_) : example(deck + ".DAT"));
 
     EXPECT_NE(solve("road").find(s.TITLE), std::string::npos);
     const auto pages = plot("road");

@@ -2,6 +2,7 @@
 // what none of them has.
 #include "roads/road.h"
 #include "slab/slab_deck.h"
+#include "support/deck_texts.h"
 #include "support/example_files.h"
 
 namespace {
@@ -213,14 +214,6 @@ class SlabRoad : public Road, public ::testing::WithParamInterface<std::string> 
     int set_ = 1;
 };
 
-std::string deckOf(const Store& store) {
-    std::ostringstream text;
-    ListWriter out(text);
-    saveSlabDeck(store, out);
-    out.close();
-    return text.str();
-}
-
 TEST_P(SlabRoad, FromFileNewToASavedDeck) {
     name("slab");
     click("frmTOLMARK", "cmdPanform");
@@ -231,7 +224,7 @@ TEST_P(SlabRoad, FromFileNewToASavedDeck) {
     EXPECT_EQ(word("frmPANFORM", "lblRaft"), s().CL == Variant(1) ? "done" : "default");
     saveAs("frmPANFORM", "slab.DAT");
     const bool isExample = GetParam().size() == 4;
-    EXPECT_EQ(directory.read("slab.DAT"), isExample ? example(GetParam() + ".DAT") : deckOf(*wanted_));
+    EXPECT_EQ(directory.read("slab.DAT"), isExample ? example(GetParam() + ".DAT") : slabDeckOf(*wanted_));
 }
 
 INSTANTIATE_TEST_SUITE_P(Decks, SlabRoad,

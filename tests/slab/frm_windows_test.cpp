@@ -4,18 +4,7 @@
 
 namespace {
 
-class SlabWindows : public SlabScreens, public ::testing::WithParamInterface<double> {
-  protected:
-    SlabWindows() {
-        QFont larger = usual_;
-        larger.setPointSizeF(usual_.pointSizeF() * GetParam());
-        QApplication::setFont(larger);
-    }
-    ~SlabWindows() override { QApplication::setFont(usual_); }
-
-  private:
-    const QFont usual_ = QApplication::font();
-};
+using SlabWindows = AtScales<SlabScreens>;
 
 TEST_P(SlabWindows, AreWellMade) {
     set.NSLAB = 6;

@@ -26,13 +26,13 @@ TEST(SlabDeck, EmptyListsKeepTheLabelsOfCardsThatAreAlwaysThere) {
     s.SLAB[1].NX = s.SLAB[1].NY = 0;
     s.NLAYER = s.NLG = s.NPY = 0;
     s.NDAMA = 1;
-    EXPECT_EQ(linesAfter(deckOf(*store), "(8) F1(1) F1(2) F2(1) F2(2)"),
+    EXPECT_EQ(linesAfter(slabDeckOf(*store), "(8) F1(1) F1(2) F2(1) F2(2)"),
               " (9) X's and then Y's| (9) X's and then Y's| (10) T PR YM| (12) NUDL| 0   (13) NCNF|"
               " 0   0   (14) NNMX NNMY| 0   100   (24) NAS SUBMOD| 29000000  .3  (34) YMSB PRSB|");
     s.NPY = 2;
-    EXPECT_TRUE(deckOf(*store).ends_with(" (37) TNLR\r\n (37) TNLR\r\n"));
+    EXPECT_TRUE(slabDeckOf(*store).ends_with(" (37) TNLR\r\n (37) TNLR\r\n"));
     const auto again = std::make_unique<Store>();
-    EXPECT_EQ(read(deckOf(*store), *again).sentence(), "");
+    EXPECT_EQ(read(slabDeckOf(*store), *again).sentence(), "");
     EXPECT_EQ(again->slab[1].YMSB, Variant(2.9e7));
 }
 
@@ -100,11 +100,11 @@ TEST(SlabDeck, ListsFoundationsJointsAndDamage) {
                 {2, 2, " 2   30   (30) NL MAXIC| 6   (31) TH| 20000   0   (32) E| .4   0   (33) PRBF|"}};
     for (const char* line :
          {"\n 3   2   0   1   0   0   (5) NX", "\n 8   .15   4000000   4   .2   3500000   (10)"})
-        EXPECT_NE(deckOf(*store).find(line), std::string::npos) << line;
+        EXPECT_NE(slabDeckOf(*store).find(line), std::string::npos) << line;
     for (const auto& row : rows) {
         s.NFOUND = row.NFOUND;
         s.NL = row.NL;
-        EXPECT_EQ(linesAfter(deckOf(*store), "(10) T PR YM"), lists + row.cards + dowels);
+        EXPECT_EQ(linesAfter(slabDeckOf(*store), "(10) T PR YM"), lists + row.cards + dowels);
     }
 }
 
@@ -122,7 +122,7 @@ TEST(SlabDeck, StatusFollowsFromTheRestOfTheDeck) {
         s.NTEMP = row.NTEMP;
         s.NCYCLE = row.NCYCLE;
         s.UL = "9";
-        ASSERT_EQ(read(deckOf(*store), *store).sentence(), "");
+        ASSERT_EQ(read(slabDeckOf(*store), *store).sentence(), "");
         EXPECT_EQ(s.UL.text() + numberText(s.TC) + s.CL.text(), row.status);
     }
 }
@@ -134,7 +134,7 @@ TEST(SlabDeck, RandomStoresKeepTheirValues) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
         const auto store = stores.next();
         const auto again = std::make_unique<Store>();
-        const DeckReadResult result = read(deckOf(*store), *again);
+        const DeckReadResult result = read(slabDeckOf(*store), *again);
         ASSERT_EQ(result.sentence(), "");
         EXPECT_EQ(result.remarks, std::vector<std::string>{}) << "to its end";
         ASSERT_EQ(again->SlabNPROB, store->SlabNPROB);
@@ -150,7 +150,7 @@ TEST(SlabDeck, SpoiledDecksNeverBreakTheReader) {
     for (int round = 0; round < 300; ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
         const auto store = random.next();
-        const std::string deck = mutated(deckOf(*store), random);
+        const std::string deck = mutated(slabDeckOf(*store), random);
         DeckReadResult result;
         ASSERT_NO_THROW(result = read(deck, *store));
         ASSERT_EQ(result.sentence().empty(), result.outcome == Outcome::Complete);
@@ -172,10 +172,10 @@ TEST(SlabDeck, MiddleGenerationHasUnitsButNoStatus) {
     s.NUNIT = 1;
     s.NOTCON = s.NGAP = s.NAS = 1;
     s.AREA[1][1].XL2 = 10;
-    const std::string deck = deckOf(*store);
+    const std::string deck = slabDeckOf(*store);
     const auto again = std::make_unique<Store>();
     ASSERT_EQ(read(middleDeck(deck), *again).sentence(), "");
-    EXPECT_EQ(deckOf(*again), deck);
+    EXPECT_EQ(slabDeckOf(*again), deck);
 }
 
 /// One slab and two load groups, as the oldest decks have them.
@@ -226,7 +226,7 @@ TEST(SlabDeck, OldestGenerationDiffersInThreePlaces) {
 }
 
 TEST(SlabDeck, BadDecksAreToldByLineFieldAndCard) {
-    const std::string deck = deckOf(*singleSlabStore());
+    const std::string deck = slabDeckOf(*singleSlabStore());
     const struct {
         std::string text;
         Outcome outcome;
@@ -267,7 +267,7 @@ TEST(SlabDeck, AFileThatCannotBeWrittenWholeStays) {
     EXPECT_EQ(folder.read("slab.dat"), "old");
     store->slab[1].NPRINT = 0;
     saveSlabDeck(*store, folder.path() + "slab");
-    EXPECT_EQ(folder.read("slab.dat"), deckOf(*store));
+    EXPECT_EQ(folder.read("slab.dat"), slabDeckOf(*store));
     EXPECT_EQ(readSlabDeck(folder.path() + "SLAB.DAT", *store).sentence(), "");
 }
 

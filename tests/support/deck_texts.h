@@ -9,7 +9,10 @@
 #include <utility>
 #include <vector>
 
+#include "layered/layered_deck.h"
+#include "slab/slab_deck.h"
 #include "store/cards.h"
+#include "store/store.h"
 #include "support/random_cells.h"
 #include "support/text_change.h"
 
@@ -19,6 +22,22 @@ inline std::string linesAfter(const std::string& deck, const std::string& label)
     for (const char c : deck.substr(deck.find(label) + label.size() + 2))
         if (c != '\r') lines += c == '\n' ? '|' : c;
     return lines;
+}
+
+/// The deck that a store is written as.
+template <class Save>
+std::string deckText(Save save) {
+    std::ostringstream text;
+    ListWriter out(text);
+    save(out);
+    out.close();
+    return text.str();
+}
+inline std::string layeredDeckOf(const Store& store) {
+    return deckText([&](ListWriter& out) { saveLayeredDeck(store, out); });
+}
+inline std::string slabDeckOf(const Store& store) {
+    return deckText([&](ListWriter& out) { saveSlabDeck(store, out); });
 }
 
 /// Every value that a data set's cards hold, with its place.

@@ -9,6 +9,7 @@
 #include "slab/slab_deck.h"
 #include "slab/slab_rules.h"
 #include "store/store.h"
+#include "support/deck_texts.h"
 #include "support/random_cells.h"
 
 /// A new file with one slab of 3 by 2 nodes, one loaded area and a liquid foundation.
@@ -29,14 +30,6 @@ inline std::unique_ptr<Store> singleSlabStore() {
     s.AREA[1][1] = {1.0, 0.0, "10", 0.0, 12.5, 80.0};
     s.SUBMOD = 100.0;
     return store;
-}
-
-inline std::string deckOf(const Store& store) {
-    std::ostringstream stream;
-    ListWriter out(stream);
-    saveSlabDeck(store, out);
-    out.close();
-    return stream.str();
 }
 
 class RandomSlabStores : public RandomCells {

@@ -12,6 +12,21 @@
 
 #include "platform/qt/form.h"
 
+/// Windows of `Screens` at usual and at large type: the parameter is the scale.
+template <class Screens>
+class AtScales : public Screens, public ::testing::WithParamInterface<double> {
+  protected:
+    AtScales() {
+        QFont larger = usual_;
+        larger.setPointSizeF(usual_.pointSizeF() * GetParam());
+        QApplication::setFont(larger);
+    }
+    ~AtScales() override { QApplication::setFont(usual_); }
+
+  private:
+    const QFont usual_ = QApplication::font();
+};
+
 inline void expectWholeCaptions(Form& form) {
     for (const QWidget* widget : form.findChildren<QWidget*>()) {
         if (!widget->isVisible()) continue;
