@@ -3,6 +3,7 @@
 cd "$(dirname "$0")/.." || exit 1
 breaches=0
 
+shopt -s lastpipe  # the count below is that of this shell, though lines come through a pipe
 # breach TITLE: reads offending lines; any line is a breach.
 breach() {
     local lines

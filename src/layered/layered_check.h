@@ -15,6 +15,6 @@ struct Store;
 /// can have.
 std::optional<DeckFault> checkLayeredSet(const LayeredSet& set, int number, const DeckPlace& end = {});
 
-/// The first fault of the number of data sets, or of data sets 1 to `NPROB`. `end` is where the reading of the
-/// deck failed, if it did: values from there on are not looked at.
+/// The first fault of the number of data sets, or of data sets 1 to `NPROB`. `end` is where the reading of
+/// the deck failed, if it did: values from there on are not looked at.
 std::optional<DeckFault> checkLayeredDeck(const Store& store, const DeckPlace& end = {});

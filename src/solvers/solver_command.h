@@ -35,7 +35,8 @@ struct BadDeck : std::runtime_error {
 };
 
 /// Throws BadDeck unless the deck was read whole and its check found no fault. A wrong count makes the
-/// reading fail further down; then the count is what the user hears of. `kind` is what the solver is for, "slabs".
+/// reading fail further down; then the count is what the user hears of. `kind` is what the solver is for,
+/// "slabs".
 void requireSound(const DeckReadResult& read, const std::optional<DeckFault>& fault, const std::string& kind);
 
 class SolverCommand {
