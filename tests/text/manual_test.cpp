@@ -8,8 +8,10 @@
 #include <sstream>
 
 #include "layered/layered_cards.h"
+#include "platform/print_text_box.h"
 #include "slab/slab_cards.h"
 #include "support/page_reading.h"
+#include "support/recording_printer.h"
 #include "text/figure.h"
 #include "text/pages.h"
 #include "text/sheets.h"
@@ -35,6 +37,19 @@ TEST(Manual, IsPlainTextThatFitsItsBoxAndItsPaper) {
             EXPECT_LE(line.size(), 75U) << page << ": " << line;
             EXPECT_TRUE(std::regex_match(line, plain)) << page << ": " << line;
         }
+    }
+}
+
+TEST(Manual, PrintsEveryLineOfEveryPage) {
+    for (const auto& [page, text] : embeddedPages()) {
+        const std::string shown = textPage(page, "\r\n");
+        RecordingPrinter printer;
+        PrintTextBox(printer, shown);
+        std::size_t printed = 0;
+        for (const auto& job : printer.jobs) printed += job.lines.size();
+        const std::size_t topOfFirst = 5, topOfOthers = 4;
+        EXPECT_EQ(printed - topOfFirst - topOfOthers * (printer.jobs.size() - 1), linesOf(shown).size())
+            << page;
     }
 }
 
