@@ -63,8 +63,7 @@ constexpr const char* FATIGUE_DEMAND = "the fatigue coefficient must be greater 
 constexpr const char* SPRING_DEMAND = "it must not be negative";
 constexpr const char* RAFT_DEMAND =
     "it must be 0 unless NDAMA is 0 and NPY and NLG are 1: a raft has one period, one load group and no "
-    "damage "
-    "analysis";
+    "damage analysis";
 constexpr const char* JOINT_DEMAND = "there is no such joint";
 
 const ValueRule<Set> rules[] = {

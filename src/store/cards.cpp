@@ -1,6 +1,6 @@
 #include "store/cards.h"
 
-#include <regex>
+#include <sstream>
 
 std::string DeckPlace::fieldText() const {
     std::string indexes;
@@ -22,14 +22,29 @@ std::string DeckReadResult::sentence() const {
     return line == 0 ? reason : "line " + std::to_string(line) + ": " + where.text() + ": " + reason;
 }
 
+namespace {
+
+/// The digits of the first word of the form "(12)", empty where there is none; a card has two at most.
+std::string cardNumberIn(const std::string& label) {
+    std::istringstream words(label);
+    for (std::string word; words >> word;) {
+        const bool bracketed = word.size() >= 3 && word.front() == '(' && word.back() == ')';
+        if (!bracketed || word.size() > 4) continue;
+        const std::string inside = word.substr(1, word.size() - 2);
+        if (inside.find_first_not_of("0123456789") == std::string::npos) return inside;
+    }
+    return "";
+}
+
+}  // namespace
+
 std::string remarkOnLabel(const std::string& label, int card) {
     std::string remark;
     const std::string first = label.substr(0, label.find(' '));
     if (IsNumeric(first)) remark = "the values from " + first + " on were not read";
-    static const std::regex number(R"((?:^| )\((\d+)\))");
-    std::smatch found;
-    if (std::regex_search(label, found, number) && found[1] != std::to_string(card))
-        remark += (remark.empty() ? "" : ", and ") + ("the label is that of card (" + found.str(1) + ")");
+    const std::string number = cardNumberIn(label);
+    if (!number.empty() && number != std::to_string(card))
+        remark += (remark.empty() ? "" : ", and ") + ("the label is that of card (" + number + ")");
     return remark.empty() ? "" : remark + "; is a line missing, or a count or a type wrong?";
 }
 

@@ -169,6 +169,8 @@ TEST(LayeredDeck, RemarksTellWhatWasPassedOver) {
                     "of card (8)" +
                     missing));
     EXPECT_THAT(remarks(replaced(deck, "(6) TH", "thickness in.")), ElementsAre()) << "any words will do";
+    const std::string endless = "(" + std::string(400000, '7') + ")";
+    EXPECT_THAT(remarks(replaced(deck, "(6) TH", endless)), ElementsAre());
     EXPECT_THAT(remarks(replaced(deck, " .35   .3   .45   (7) PR\r\n", "")),
                 ElementsAre(StartsWith("line 7: card (7), data set 1: the values from 14.001 on")))
         << "beside a failure";

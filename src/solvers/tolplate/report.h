@@ -26,7 +26,8 @@ void writeDamage(std::ostream& out, const SlabSet& set, const plate::Solution& s
 /// What the plot cannot show of this data set, if anything.
 void writePlotNotes(std::ostream& out, const SlabSet& set);
 
-/// Sentences on data that can be solved but are hardly meant: layers without weight, loads that act twice.
+/// Sentences on data that can be solved but are hardly meant: layers without weight, nodes
+/// listed twice, loads that act twice.
 std::vector<std::string> dataWarnings(const SlabSet& set);
 
 /// Sentences on a case that went wrong without being lost: DEL or FMAX passed, contact that did not settle.
