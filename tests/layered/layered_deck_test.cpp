@@ -96,7 +96,7 @@ TEST(LayeredDeck, NonlinearViscoelasticAndDamageCards) {
 TEST(LayeredDeck, RandomStoresKeepTheirValues) {
     constexpr unsigned seed = 20240;
     RandomStores stores(seed);
-    for (int round = 0; round < 150; ++round) {
+    for (int round = 0; round < rounds(150); ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
         const auto store = stores.next();
         Store read;
@@ -259,7 +259,7 @@ TEST(LayeredDeck, SpoiledDecksNeverBreakTheReader) {
     constexpr unsigned seed = 4711;
     RandomStores random(seed);
     std::set<Outcome> outcomes;
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < rounds(300); ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
         const auto store = random.next();
         DeckReadResult result;

@@ -130,7 +130,7 @@ TEST(SlabDeck, StatusFollowsFromTheRestOfTheDeck) {
 TEST(SlabDeck, RandomStoresKeepTheirValues) {
     constexpr unsigned seed = 30531;
     RandomSlabStores stores(seed);
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < rounds(300); ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", store " + std::to_string(round));
         const auto store = stores.next();
         const auto again = std::make_unique<Store>();
@@ -147,7 +147,7 @@ TEST(SlabDeck, SpoiledDecksNeverBreakTheReader) {
     constexpr unsigned seed = 815;
     RandomSlabStores random(seed);
     int outcomes[3] = {};
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < rounds(300); ++round) {
         SCOPED_TRACE("seed " + std::to_string(seed) + ", deck " + std::to_string(round));
         const auto store = random.next();
         const std::string deck = mutated(slabDeckOf(*store), random);

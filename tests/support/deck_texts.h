@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -22,6 +23,12 @@ inline std::string linesAfter(const std::string& deck, const std::string& label)
     for (const char c : deck.substr(deck.find(label) + label.size() + 2))
         if (c != '\r') lines += c == '\n' ? '|' : c;
     return lines;
+}
+
+/// How many random decks a test makes: a few, or as many as TOLMARK_LONG_RUN says.
+inline int rounds(int usual) {
+    const char* wanted = std::getenv("TOLMARK_LONG_RUN");
+    return wanted ? std::stoi(wanted) : usual;
 }
 
 /// The deck that a store is written as.
